@@ -1,0 +1,98 @@
+#pragma once
+
+#include <memory>
+#include <type_traits>
+#include <utility>
+
+/// Ownership, for every class of the library.
+///
+/// An object is one pointer to a record that it owns alone; the record holds the fields, in an
+/// order of its own, and each class hides its record in its source file. Two templates know how
+/// records are made, copied, moved and released; the fields themselves are walked by the record's
+/// implicit members, in record order, and released in reverse.
+///
+/// For every class: getters copy, setters replace the stored value by assignment, and no two
+/// objects share anything. The library throws nothing of its own. What fails is an allocation or
+/// an operation of a base type; that exception reaches the caller, and nothing is left behind.
+/// Where a function is `noexcept` although it copies, such a failure ends the process.
+namespace kivo::erp::v12::fiscal {
+
+/// A record from construction to destruction.
+///
+/// - Construction allocates, copying and moving included: a moved-from object keeps its record and
+///   stays usable. Its texts and lists are empty, its numbers and codes unchanged, and an optional
+///   that was present is still present, around a moved-from value.
+/// - Assignment walks the fields of the record that is there. When one fails, the fields before it
+///   are new and the rest are old.
+template <class Record> class eager_handle {
+public:
+    eager_handle() : record_(std::make_unique<Record>()) {}
+    eager_handle(const eager_handle& other) : record_(std::make_unique<Record>(*other.record_)) {}
+    eager_handle(eager_handle&& other)
+        : record_(std::make_unique<Record>(std::move(*other.record_))) {}
+    ~eager_handle() = default;
+
+    eager_handle& operator=(const eager_handle& other) {
+        *record_ = *other.record_;
+        return *this;
+    }
+    eager_handle& operator=(eager_handle&& other) {
+        *record_ = std::move(*other.record_);
+        return *this;
+    }
+
+    const Record* operator->() const noexcept { return record_.get(); }
+    Record* operator->() noexcept { return record_.get(); }
+
+private:
+    std::unique_ptr<Record> record_; // never null
+};
+
+/// No record until a field is stored.
+///
+/// - An empty object answers every getter with the field's default and allocates nothing; a copy
+///   of it is empty too.
+/// - Moving hands the record over and leaves the source empty.
+/// - Copy assignment copies first and swaps then: when the copy fails, the target is unchanged.
+///   The target's old record is released either way.
+/// - The first setter keeps its new record only once the field is stored: when it fails, the
+///   object is still empty.
+template <class Record> class lazy_handle {
+public:
+    lazy_handle() noexcept = default;
+    lazy_handle(const lazy_handle& other)
+        : record_(other.record_ ? std::make_unique<Record>(*other.record_) : nullptr) {}
+    lazy_handle(lazy_handle&& other) noexcept = default;
+    ~lazy_handle() = default;
+
+    lazy_handle& operator=(const lazy_handle& other) {
+        lazy_handle(other).swap(*this);
+        return *this;
+    }
+    lazy_handle& operator=(lazy_handle&& other) noexcept {
+        lazy_handle(std::move(other)).swap(*this);
+        return *this;
+    }
+
+    void swap(lazy_handle& other) noexcept { record_.swap(other.record_); }
+
+    template <class Field> Field get(Field Record::*field) const {
+        return record_ ? (*record_).*field : Field();
+    }
+
+    template <class Field>
+    void set(Field Record::*field, const std::type_identity_t<Field>& value) {
+        if (record_) {
+            (*record_).*field = value;
+        } else {
+            auto fresh = std::make_unique<Record>();
+            (*fresh).*field = value;
+            record_ = std::move(fresh);
+        }
+    }
+
+private:
+    std::unique_ptr<Record> record_; // null: empty
+};
+
+} // namespace kivo::erp::v12::fiscal

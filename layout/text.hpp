@@ -1,0 +1,120 @@
+#pragma once
+
+#include <layout/map.hpp>
+
+#include <fiscal/types.hpp>
+
+#include <base/converter.hpp>
+
+#include <concepts>
+#include <cstdint>
+#include <limits>
+#include <string>
+#include <string_view>
+#include <type_traits>
+
+namespace kivo::erp::v12::layout {
+
+/// A value with converters of its own: a base value, or the emission type.
+template <class Value>
+concept convertible_value = requires(Value& value, char* chars, std::size_t& length) {
+    core::v7::chars_converter<Value>::make_chars(chars, length, value);
+    core::v7::value_converter<Value>::make_value(value, chars, length);
+};
+
+/// An enumeration, or a whole number.
+template <class Value>
+concept coded_value = std::is_enum_v<Value> || std::unsigned_integral<Value>;
+
+/// The largest number that a coded value holds.
+template <coded_value Value> constexpr std::uint64_t largest_number() {
+    if constexpr (std::is_enum_v<Value>) {
+        return std::numeric_limits<std::underlying_type_t<Value>>::max();
+    } else {
+        return std::numeric_limits<Value>::max();
+    }
+}
+
+/// A number as the layout writes it.
+std::string number_text(std::uint64_t number, const form& how);
+
+/// A text of digits as a number up to the given one; absent for any other text.
+core::v7::optional<std::uint64_t> number_of(std::string_view text, std::uint64_t largest, int base);
+
+/// The layout's text of a value; absent where the value has none, such as a date never set.
+template <class Value>
+core::v7::optional<std::string> text_of(const Value& value, const form& how = {}) {
+    if constexpr (convertible_value<Value>) {
+        char chars[32];
+        std::size_t length = sizeof chars;
+        if (core::v7::chars_converter<Value>::make_chars(chars, length, value) != 0 ||
+            (how.optional && std::string_view(chars, length) == "0")) {
+            return {};
+        }
+        return std::string(chars, length);
+    } else if constexpr (coded_value<Value>) {
+        const auto number = static_cast<std::uint64_t>(value);
+        if (how.optional && number == 0) {
+            return {};
+        }
+        return number_text(number, how);
+    } else {
+        static_assert(std::same_as<Value, std::string>);
+        if (value.empty() && !how.empty) {
+            return {};
+        }
+        return how.before + value;
+    }
+}
+
+/// Reads a value from its whole text. A text that the value would not give back to the letter, as
+/// one with a leading zero too many, is refused, and the value stays as it was.
+template <class Value> bool read_text(Value& value, const std::string& text, const form& how = {}) {
+    Value found{};
+    if constexpr (convertible_value<Value>) {
+        // the terminating zero may be read: an empty text is judged by it
+        if (core::v7::value_converter<Value>::make_value(found, text.c_str(), text.size()) != 0) {
+            return false;
+        }
+    } else if constexpr (coded_value<Value>) {
+        const auto number = number_of(text, largest_number<Value>(), how.base);
+        if (!number) {
+            return false;
+        }
+        found = static_cast<Value>(*number);
+    } else {
+        found =
+            text.starts_with(how.before) ? text.substr(std::string_view(how.before).size()) : text;
+    }
+    if (text_of(found, how) != text) {
+        return false;
+    }
+    value = found;
+    return true;
+}
+
+/// What the text of a number should have been, for a person to read.
+std::string expected_number(std::uint64_t largest, const form& how);
+
+/// What a refused text should have been, for a person to read.
+template <class Value> std::string expected_text(const form& how) {
+    if constexpr (std::same_as<Value, fiscal::decimal>) {
+        return "a decimal number such as 1234.56, of at most 17 digits";
+    } else if constexpr (std::same_as<Value, fiscal::date>) {
+        return "a date of the calendar, AAAA-MM-DD";
+    } else if constexpr (std::same_as<Value, fiscal::datetime>) {
+        return "a date and time with its offset, AAAA-MM-DDThh:mm:ss-03:00";
+    } else if constexpr (std::same_as<Value, fiscal::cnpj>) {
+        return "a CNPJ, 14 characters with their check digits";
+    } else if constexpr (std::same_as<Value, fiscal::cpf>) {
+        return "a CPF, 11 digits with their check digits";
+    } else if constexpr (coded_value<Value> && !convertible_value<Value>) {
+        return expected_number(largest_number<Value>(), how);
+    } else {
+        return convertible_value<Value> ? "a code of the layout"
+               : how.before[0] != '\0'  ? std::string(how.before) + " and a text behind it"
+                                        : "a text that is not empty";
+    }
+}
+
+} // namespace kivo::erp::v12::layout

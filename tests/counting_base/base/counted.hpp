@@ -1,0 +1,75 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <vector>
+
+/// Base values of one word that count and log every operation, and throw when they are told to.
+namespace kivo::counting {
+
+enum class operation { construct, copy, move, copy_assign, move_assign, destroy };
+
+/// One operation on the value of a number.
+struct event {
+    operation what;
+    std::uint64_t number;
+};
+
+/// What a base value throws.
+struct failure {};
+
+inline std::vector<event>* log = nullptr; // null: nothing is logged
+inline std::size_t live = 0;              // values that are not destroyed yet
+inline std::size_t allowed = std::numeric_limits<std::size_t>::max(); // operations before a failure
+
+inline void note(operation what, std::uint64_t number) {
+    if (what != operation::destroy && allowed-- == 0) {
+        throw failure();
+    }
+    if (log != nullptr) {
+        log->push_back({what, number});
+    }
+}
+
+/// What the default constructor of a type owes.
+enum class construction { may_throw, never_throws, none };
+
+template <class Tag, construction by_default> class counted {
+public:
+    counted() requires(by_default == construction::may_throw) {
+        note(operation::construct, 0);
+        ++live;
+    }
+    counted() noexcept requires(by_default == construction::never_throws) { ++live; }
+    explicit counted(std::uint64_t number) : number_(number) { ++live; }
+    counted(const counted& other) : number_(other.number_) {
+        note(operation::copy, number_);
+        ++live;
+    }
+    counted(counted&& other) : number_(other.number_) {
+        note(operation::move, number_);
+        ++live;
+    }
+    counted& operator=(const counted& other) {
+        note(operation::copy_assign, other.number_);
+        number_ = other.number_;
+        return *this;
+    }
+    counted& operator=(counted&& other) {
+        note(operation::move_assign, other.number_);
+        number_ = other.number_;
+        return *this;
+    }
+    ~counted() {
+        note(operation::destroy, number_);
+        --live;
+    }
+
+    std::uint64_t number() const { return number_; }
+
+private:
+    std::uint64_t number_ = 0;
+};
+
+} // namespace kivo::counting

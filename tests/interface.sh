@@ -1,0 +1,34 @@
+#!/bin/bash
+# Checks what the shared library shows to the outside and asks of it.
+# Usage: interface.sh LIBRARY RECORDED_NAMES
+set -euo pipefail
+library=$1
+recorded=$2
+failed=0
+
+fail() {
+    echo "interface: $*" >&2
+    failed=1
+}
+
+names=$(nm --dynamic --defined-only --demangle "$library" | cut -d' ' -f3- | LC_ALL=C sort -u)
+diff --unified=0 --label recorded --label library "$recorded" - <<< "$names" ||
+    fail "exported names differ from $recorded"
+
+needed=$(readelf --dynamic --wide "$library" | sed -n 's/.*(NEEDED).*\[\(.*\)\]/\1/p')
+for file in $needed; do
+    case $file in
+    libstdc++.so.6 | libm.so.6 | libgcc_s.so.1 | libc.so.6) ;;
+    *) fail "needs $file besides the C++ runtime" ;;
+    esac
+done
+readelf --dynamic --wide "$library" | grep -q 'SONAME.*\[libkivo-erp-fiscal.so.12\]' ||
+    fail "has another SONAME than libkivo-erp-fiscal.so.12"
+
+# what the compiler's own start-up files bring is no data of ours
+data=$(nm --defined-only --demangle "$library" | grep -E '^[0-9a-f]+ [BbDd] ' |
+    grep -vE ' (__dso_handle|completed\.0|_DYNAMIC|_GLOBAL_OFFSET_TABLE_|__TMC_END__|__bss_start|_edata|_end|DW\.ref\.__gxx_personality_v0|__frame_dummy_init_array_entry|__do_global_dtors_aux_fini_array_entry)$') || true
+[ -z "$data" ] || fail "has writable data: $data"
+! nm --defined-only "$library" | grep '_GLOBAL__sub_I' || fail "has static initialisers"
+
+exit $failed

@@ -1,0 +1,127 @@
+#pragma once
+
+#include "fields.hpp"
+
+#include <base_samples.hpp>
+#include <fiscal/types.hpp>
+
+#include <concepts>
+#include <cstddef>
+#include <string>
+#include <type_traits>
+#include <utility>
+#include <variant>
+#include <vector>
+
+/// Values for every field of every class, told apart by a number, and their texts.
+namespace kivo::tests {
+
+template <class Value> inline constexpr bool is_variant = false;
+template <class... Alternatives>
+inline constexpr bool is_variant<core::v7::variant<Alternatives...>> = true;
+
+/// What a getter of the class returns.
+template <class Accessor, class Class>
+using value_of = erp::v12::layout::value_of<decltype(Accessor::get), Class>;
+
+template <class Value> Value sample(std::size_t number);
+
+namespace detail {
+
+template <class Variant> Variant sample_variant(std::size_t number) {
+    const std::size_t wanted = number % std::variant_size_v<Variant>;
+    core::v7::optional<Variant> result;
+    [&]<std::size_t... index>(std::index_sequence<index...>) {
+        ((index == wanted
+              ? void(result.emplace(std::in_place_index<index>,
+                                    sample<std::variant_alternative_t<index, Variant>>(number)))
+              : void()),
+         ...);
+    }
+    (std::make_index_sequence<std::variant_size_v<Variant>>());
+    return *result;
+}
+
+} // namespace detail
+
+/// A value that differs from that of every number near it; in a class, every field is set.
+template <class Value> Value sample(std::size_t number) {
+    if constexpr (erp::v12::layout::is_optional<Value>) {
+        return sample<typename Value::value_type>(number);
+    } else if constexpr (erp::v12::layout::is_list<Value>) {
+        using item = typename Value::value_type;
+        Value result;
+        result.push_back(sample<item>(number));
+        result.push_back(sample<item>(number + 100));
+        return result;
+    } else if constexpr (is_variant<Value>) {
+        return detail::sample_variant<Value>(number);
+    } else if constexpr (erp::v12::layout::group<Value>) {
+        Value result;
+        for_each_field<Value>([&](const auto& field, std::size_t index) {
+            using value = value_of<std::remove_cvref_t<decltype(field)>, Value>;
+            (result.*field.set)(sample<value>(number * 64 + index));
+        });
+        return result;
+    } else if constexpr (std::same_as<Value, std::string>) {
+        return "text " + std::to_string(number) + ", too long to stand in the string itself";
+    } else if constexpr (std::is_enum_v<Value>) {
+        return static_cast<Value>(number % 251 + 1);
+    } else if constexpr (std::unsigned_integral<Value>) {
+        return static_cast<Value>(number % 251 + 1);
+    } else if constexpr (std::same_as<Value, core::v7::monostate>) {
+        return {};
+    } else {
+        return base_sample<Value>(number);
+    }
+}
+
+/// A field's own value for the object of a number, as `sample` sets it.
+template <class Class, class Accessor> auto sample_for(std::size_t index, std::size_t number) {
+    return sample<value_of<Accessor, Class>>(number * 64 + index);
+}
+
+/// The texts of all fields of an object, in the order of `for_each_field`.
+template <class Class> std::vector<std::string> texts(const Class& object);
+
+/// A text that tells a value from every other of its type.
+template <class Value> std::string text(const Value& value) {
+    if constexpr (erp::v12::layout::is_optional<Value>) {
+        return value ? "present " + text(*value) : "absent";
+    } else if constexpr (erp::v12::layout::is_list<Value>) {
+        std::string result = std::to_string(value.size()) + " of";
+        for (const auto& item : value) {
+            result += ' ' + text(item);
+        }
+        return result;
+    } else if constexpr (is_variant<Value>) {
+        if (value.valueless_by_exception()) {
+            return "valueless";
+        }
+        return std::to_string(value.index()) + ": " +
+               std::visit([](const auto& held) { return text(held); }, value);
+    } else if constexpr (erp::v12::layout::group<Value>) {
+        std::string result = "{";
+        for (const std::string& field : texts(value)) {
+            result += field + "; ";
+        }
+        return result + '}';
+    } else if constexpr (std::same_as<Value, std::string>) {
+        return '"' + value + '"';
+    } else if constexpr (std::is_enum_v<Value> || std::unsigned_integral<Value>) {
+        return std::to_string(static_cast<std::uint64_t>(value));
+    } else if constexpr (std::same_as<Value, core::v7::monostate>) {
+        return "nothing";
+    } else {
+        return base_text(value);
+    }
+}
+
+template <class Class> std::vector<std::string> texts(const Class& object) {
+    std::vector<std::string> result;
+    for_each_field<Class>(
+        [&](const auto& field, std::size_t) { result.push_back(text((object.*field.get)())); });
+    return result;
+}
+
+} // namespace kivo::tests

@@ -1,0 +1,182 @@
+#pragma once
+
+#include "support/allocations.hpp"
+#include "support/classes.hpp"
+#include "support/samples.hpp"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+/// What every class owes as a value, over the accessor pairs that the layout map lists.
+namespace kivo::tests {
+
+template <class Class> class every_class : public ::testing::Test {};
+TYPED_TEST_SUITE_P(every_class);
+
+/// The texts of an object after its fields were moved out of its record, one by one.
+template <class Class> std::vector<std::string> texts_after_moving_fields(const Class& object) {
+    std::vector<std::string> result;
+    for_each_field<Class>([&](const auto& field, std::size_t) {
+        auto value = (object.*field.get)();
+        [[maybe_unused]] const auto moved = std::move(value);
+        result.push_back(text(value));
+    });
+    return result;
+}
+
+/// What a move leaves in a full object of the class.
+template <class Class> std::vector<std::string> texts_after_a_move(const Class& object) {
+    if constexpr (lazy<Class>) {
+        return texts(Class());
+    } else {
+        return texts_after_moving_fields(object);
+    }
+}
+
+// Catches a setter or a getter that reaches a neighbour of its field.
+TYPED_TEST_P(every_class, setting_one_field_leaves_the_others_alone) {
+    for_each_field<TypeParam>([](const auto& changed, std::size_t index) {
+        using accessor = std::remove_cvref_t<decltype(changed)>;
+        const auto value = sample_for<TypeParam, accessor>(index, 2);
+        for (TypeParam object : {TypeParam(), sample<TypeParam>(1)}) {
+            std::vector<std::string> expected = texts(object);
+            ASSERT_NE(expected[index], text(value)) << changed.element;
+            expected[index] = text(value);
+            (object.*changed.set)(value);
+            EXPECT_EQ(texts(object), expected) << changed.element;
+        }
+    });
+}
+
+// Catches an absent value that is ignored, or kept as a default.
+TYPED_TEST_P(every_class, setting_an_absent_value_removes_it) {
+    for_each_field<TypeParam>([](const auto& changed, std::size_t index) {
+        using value = value_of<std::remove_cvref_t<decltype(changed)>, TypeParam>;
+        if constexpr (erp::v12::layout::is_optional<value>) {
+            for (TypeParam object : {TypeParam(), sample<TypeParam>(1)}) {
+                std::vector<std::string> expected = texts(object);
+                expected[index] = "absent";
+                (object.*changed.set)(value());
+                EXPECT_EQ(texts(object), expected) << changed.element;
+            }
+        }
+    });
+}
+
+// Catches a field that is left out of a copy, and a copy that shares its record or a group in it.
+TYPED_TEST_P(every_class, copies_are_whole_and_share_nothing) {
+    const auto expected = texts(sample<TypeParam>(1));
+    std::optional<TypeParam> source = sample<TypeParam>(1);
+    TypeParam copy = *source;
+    EXPECT_EQ(texts(copy), expected);
+    for_each_field<TypeParam>([&](const auto& field, std::size_t index) {
+        using accessor = std::remove_cvref_t<decltype(field)>;
+        ((*source).*field.set)(sample_for<TypeParam, accessor>(index, 2));
+        EXPECT_EQ(texts(copy), expected) << field.element;
+    });
+    source.reset();
+    EXPECT_EQ(texts(copy), expected);
+}
+
+// Catches a field that an assignment leaves out, and a value that stays where the source has none.
+TYPED_TEST_P(every_class, assignment_replaces_every_field) {
+    for (const TypeParam& source : {TypeParam(), sample<TypeParam>(1)}) {
+        for (TypeParam target : {TypeParam(), sample<TypeParam>(2)}) {
+            TypeParam moved_to = target;
+            target = source;
+            EXPECT_EQ(texts(target), texts(source));
+            TypeParam moved_from = source;
+            moved_to = std::move(moved_from);
+            EXPECT_EQ(texts(moved_to), texts(source));
+        }
+    }
+}
+
+// Catches an assignment that destroys its own source.
+TYPED_TEST_P(every_class, self_assignment_changes_nothing) {
+    TypeParam object = sample<TypeParam>(1);
+    const auto expected = texts(object);
+    TypeParam& same = object;
+    object = same;
+    EXPECT_EQ(texts(object), expected);
+    if constexpr (lazy<TypeParam>) {
+        object = std::move(same);
+        EXPECT_EQ(texts(object), expected);
+    }
+}
+
+// Catches an eager move that steals the record, a lazy one that leaves it, and a move that copies.
+TYPED_TEST_P(every_class, moves_leave_what_the_kind_promises) {
+    const TypeParam original = sample<TypeParam>(1);
+
+    TypeParam source = original;
+    TypeParam target = std::move(source);
+    EXPECT_EQ(texts(target), texts(original));
+    EXPECT_EQ(texts(source), texts_after_a_move(original));
+
+    source = original;
+    target = sample<TypeParam>(2);
+    target = std::move(source);
+    EXPECT_EQ(texts(target), texts(original));
+    EXPECT_EQ(texts(source), texts_after_a_move(original));
+
+    source = original;
+    EXPECT_EQ(texts(source), texts(original)) << "a moved-from object can be filled again";
+}
+
+// Catches a swap that copies or forgets a side, and an empty handle that takes memory.
+TYPED_TEST_P(every_class, empty_handles_allocate_nothing) {
+    if constexpr (lazy<TypeParam>) {
+        const std::size_t before = taken_blocks();
+        TypeParam empty;
+        TypeParam copy = empty;
+        TypeParam target;
+        target = copy;
+        target = std::move(copy);
+        empty.swap(target);
+        EXPECT_EQ(taken_blocks(), before);
+
+        for_each_field<TypeParam>([&](const auto& field, std::size_t) {
+            using value = value_of<std::remove_cvref_t<decltype(field)>, TypeParam>;
+            const std::size_t start = taken_blocks();
+            { [[maybe_unused]] const value plain{}; }
+            const std::size_t of_a_default = taken_blocks() - start;
+            { [[maybe_unused]] const value got = (empty.*field.get)(); }
+            EXPECT_EQ(taken_blocks() - start, 2 * of_a_default) << field.element;
+        });
+
+        TypeParam full = sample<TypeParam>(1);
+        const auto expected = texts(full);
+        const std::size_t filled = taken_blocks();
+        full.swap(empty);
+        EXPECT_EQ(taken_blocks(), filled);
+        EXPECT_EQ(texts(empty), expected);
+        EXPECT_EQ(texts(full), texts(TypeParam()));
+    }
+}
+
+// Catches a second allocation for the object itself, and a lost record.
+TYPED_TEST_P(every_class, records_are_released) {
+    const std::size_t before = live_blocks();
+    {
+        TypeParam object = sample<TypeParam>(1);
+        TypeParam other = object;
+        other = std::move(object);
+        object = sample<TypeParam>(2);
+        object = other;
+    }
+    EXPECT_EQ(live_blocks(), before);
+    static_assert(!handle<TypeParam> || sizeof(TypeParam) == sizeof(void*));
+}
+
+REGISTER_TYPED_TEST_SUITE_P(every_class, setting_one_field_leaves_the_others_alone,
+                            setting_an_absent_value_removes_it, copies_are_whole_and_share_nothing,
+                            assignment_replaces_every_field, self_assignment_changes_nothing,
+                            moves_leave_what_the_kind_promises, empty_handles_allocate_nothing,
+                            records_are_released);
+
+} // namespace kivo::tests
