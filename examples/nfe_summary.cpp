@@ -3,8 +3,6 @@
 #include <layout/text.hpp>
 #include <layout/xml.hpp>
 
-#include <fiscal/endereco.hpp>
-
 #include <exception>
 #include <iostream>
 #include <string>
@@ -143,7 +141,7 @@ void show_reading(const layout::reading& result) {
         std::cout << "Refused:\n";
         for (const auto& refusal : result.refused) {
             std::cout << "  " << refusal.path << ": \"" << refusal.text << "\" is not "
-                      << refusal.expected << '\n';
+                      << refusal.instead << '\n';
         }
     }
 }
@@ -156,12 +154,12 @@ int main(int argc, char** argv) {
         return 1;
     }
     try {
-        const layout::document invoice = layout::read_file(argv[1]);
-        show_issuer(invoice.content.emitente);
-        show_recipient(invoice.content.destinatario);
-        show_delivery(invoice.content.local_entrega);
-        show_reading(invoice.result);
-        return invoice.result.refused.empty() ? 0 : 1;
+        const layout::invoice_document document = layout::read_file(argv[1]);
+        show_issuer(document.invoice.get_emitente());
+        show_recipient(document.invoice.get_destinatario());
+        show_delivery(document.invoice.get_local_entrega());
+        show_reading(document.result);
+        return document.result.refused.empty() ? 0 : 1;
     } catch (const std::exception& failure) {
         std::cerr << "nfe_summary: " << argv[1] << ": " << failure.what() << '\n';
         return 1;

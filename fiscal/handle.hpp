@@ -48,6 +48,12 @@ private:
     std::unique_ptr<Record> record_; // never null
 };
 
+/// What happens when a copy fails.
+enum class failed_copy {
+    propagates,   ///< the exception reaches the caller, and nothing is left behind
+    ends_process, ///< std::terminate
+};
+
 /// No record until a field is stored.
 ///
 /// - An empty object answers every getter with the field's default and allocates nothing; a copy
@@ -57,15 +63,19 @@ private:
 ///   The target's old record is released either way.
 /// - The first setter keeps its new record only once the field is stored: when it fails, the
 ///   object is still empty.
-template <class Record> class lazy_handle {
+template <class Record, failed_copy failure = failed_copy::propagates> class lazy_handle {
+    static constexpr bool ends_process = failure == failed_copy::ends_process;
+
 public:
     lazy_handle() noexcept = default;
-    lazy_handle(const lazy_handle& other)
+    // noexcept stands here and not in the classes alone: where they are defaulted, g++ 12 lets an
+    // exception pass through a copy that is noexcept
+    lazy_handle(const lazy_handle& other) noexcept(ends_process)
         : record_(other.record_ ? std::make_unique<Record>(*other.record_) : nullptr) {}
     lazy_handle(lazy_handle&& other) noexcept = default;
     ~lazy_handle() = default;
 
-    lazy_handle& operator=(const lazy_handle& other) {
+    lazy_handle& operator=(const lazy_handle& other) noexcept(ends_process) {
         lazy_handle(other).swap(*this);
         return *this;
     }

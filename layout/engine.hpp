@@ -34,13 +34,15 @@ template <class Class>
 found read_fields(node& parent, Class& object, std::string_view without = {});
 
 template <class Value> found read_text_of(node& element, const form& how, Value& value) {
-    if (read_text(value, element.text, how)) {
-        element.reading = node::state::read;
-        return found::value;
+    if (!read_text(value, element.text, how)) {
+        element.reading = node::state::refused;
+        element.instead = expected_text<Value>(how);
+        return found::refused_text;
     }
-    element.reading = node::state::refused;
-    element.expected = expected_text<Value>(how);
-    return found::refused_text;
+    const auto own_text = text_of(value, how);
+    element.reading = own_text == element.text ? node::state::read : node::state::changed;
+    element.instead = own_text.value_or("");
+    return found::value;
 }
 
 /// The attribute that numbers the elements of a list holds nothing but what their order tells.
@@ -49,7 +51,7 @@ inline void read_position(node& element, const char* attribute, std::size_t posi
     if (number != nullptr) {
         const bool in_order = number->text == std::to_string(position);
         number->reading = in_order ? node::state::read : node::state::refused;
-        number->expected = in_order ? "" : "its place in the list";
+        number->instead = in_order ? "" : "the element's place in the list";
     }
 }
 
@@ -199,6 +201,8 @@ found read_entry(node&, Class&, const no_element<Get, Set>&) {
     return found::nothing;
 }
 
+template <class Class> found read_entry(node&, Class&, const outside&) { return found::nothing; }
+
 template <class Class> found read_entry(node& parent, Class&, const constant& entry) {
     node* const child = parent.next_unread(entry.name);
     if (child == nullptr || child->text != entry.text) {
@@ -347,6 +351,10 @@ void write_entry(node& parent, const Class& object, const one_of<Get, Set, Place
 
 template <class Class, class Get, class Set>
 void write_entry(node&, const Class&, const no_element<Get, Set>&) {}
+
+template <class Class> void write_entry(node& parent, const Class&, const outside& entry) {
+    parent.children.emplace_back(entry.name);
+}
 
 template <class Class> void write_entry(node& parent, const Class&, const constant& entry) {
     parent.children.emplace_back(entry.name, entry.text);

@@ -134,6 +134,12 @@ struct constant {
     const char* text;
 };
 
+/// An element that the layout demands and no object holds. It is written empty, in its place, for
+/// the one who knows its text.
+struct outside {
+    const char* name;
+};
+
 /// An entry that is read wherever it stands, but written only where the object is of its kind.
 template <class Condition, class Entry> struct only_if {
     Condition condition; // bool (const Class&)

@@ -42,14 +42,16 @@ void visit_children(const node& parent, const std::string& parent_path, reading&
             result.unread.push_back(path);
             continue;
         }
-        if (child.reading == node::state::refused) {
-            result.refused.push_back({path, child.text, child.expected});
+        const bool changed = child.reading == node::state::changed;
+        if (changed || child.reading == node::state::refused) {
+            (changed ? result.changed : result.refused)
+                .push_back({path, child.text, child.instead});
         }
         if (child.reading == node::state::entered && !child.text.empty()) {
             result.unread.push_back(path + "/text()");
         }
         result.texts += own_texts(child);
-        result.texts_read += child.reading == node::state::read ? 1 : 0;
+        result.texts_read += changed || child.reading == node::state::read ? 1 : 0;
         visit_children(child, path + '/', result);
     }
 }

@@ -15,6 +15,7 @@ struct node {
         unread,  ///< no field asked for it
         entered, ///< a group: its children tell for themselves
         read,    ///< its text is in a field
+        changed, ///< its value is in a field, but would be written otherwise
         refused, ///< its field could not hold its text
     };
 
@@ -23,7 +24,7 @@ struct node {
     std::vector<node> children;
 
     state reading = state::unread;
-    std::string expected; ///< of a refused text: what it should have been
+    std::string instead; ///< of a changed text: how it is written; of a refused one: what it is not
 
     explicit node(std::string node_name, std::string node_text = {})
         : name(std::move(node_name)), text(std::move(node_text)) {}
@@ -34,16 +35,17 @@ struct node {
 
 /// What became of the elements of a document that was read.
 struct reading {
-    struct refusal {
+    struct remark {
         std::string path;
         std::string text;
-        std::string expected;
+        std::string instead;
     };
 
     std::size_t texts = 0;           ///< elements and attributes that hold a text
     std::size_t texts_read = 0;      ///< how many of them are in a field
     std::vector<std::string> unread; ///< paths without a field; of a whole group, only its own
-    std::vector<refusal> refused;    ///< texts that their field could not hold
+    std::vector<remark> changed;     ///< texts that are in a field, and how they would be written
+    std::vector<remark> refused;     ///< texts that their field could not hold, and what it holds
 };
 
 /// Sums up a document after its groups were read. Paths start below the node that is given, and

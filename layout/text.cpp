@@ -19,10 +19,13 @@ std::string number_text(std::uint64_t number, const form& how) {
 }
 
 core::v7::optional<std::uint64_t> number_of(std::string_view text, std::uint64_t largest,
-                                            int base) {
+                                            const form& how) {
+    if (how.width != 0 && text.size() != how.width && text.size() != how.wide_width) {
+        return {};
+    }
     std::uint64_t number = 0;
     const char* const end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data(), end, number, base);
+    const auto [stop, error] = std::from_chars(text.data(), end, number, how.base);
     if (error != std::errc() || stop != end || number > largest) {
         return {};
     }
@@ -30,17 +33,17 @@ core::v7::optional<std::uint64_t> number_of(std::string_view text, std::uint64_t
 }
 
 std::string expected_number(std::uint64_t largest, const form& how) {
-    std::string result;
     if (how.wide_width != 0) {
-        result = std::to_string(how.width) + " or " + std::to_string(how.wide_width) + " digits";
-    } else if (how.base == 16) {
-        result = std::to_string(how.width) + " digits or letters from A to F";
-    } else if (how.width != 0) {
-        result = std::to_string(how.width) + (how.width == 1 ? " digit" : " digits");
-    } else {
-        result = "a whole number up to " + std::to_string(largest) + ", without leading zeros";
+        return std::to_string(how.width) + " or " + std::to_string(how.wide_width) + " digits";
     }
-    return how.optional ? result + ", not 0" : result;
+    if (how.base == 16) {
+        return std::to_string(how.width) + " digits or letters from A to F";
+    }
+    if (how.width != 0) {
+        return std::to_string(how.width) + (how.width == 1 ? " digit" : " digits") +
+               (how.optional ? ", not 0" : "");
+    }
+    return "a whole number up to " + std::to_string(largest);
 }
 
 } // namespace kivo::erp::v12::layout

@@ -26,6 +26,12 @@ concept convertible_value = requires(Value& value, char* chars, std::size_t& len
 template <class Value>
 concept coded_value = std::is_enum_v<Value> || std::unsigned_integral<Value>;
 
+/// A structure of nothing but an amount.
+template <class Value>
+concept amount_structure = requires(Value& value) {
+    { value.valor } -> std::same_as<fiscal::decimal&>;
+};
+
 /// The largest number that a coded value holds.
 template <coded_value Value> constexpr std::uint64_t largest_number() {
     if constexpr (std::is_enum_v<Value>) {
@@ -38,13 +44,17 @@ template <coded_value Value> constexpr std::uint64_t largest_number() {
 /// A number as the layout writes it.
 std::string number_text(std::uint64_t number, const form& how);
 
-/// A text of digits as a number up to the given one; absent for any other text.
-core::v7::optional<std::uint64_t> number_of(std::string_view text, std::uint64_t largest, int base);
+/// A text of digits, in one of the form's widths, as a number up to the given one; absent for any
+/// other text.
+core::v7::optional<std::uint64_t> number_of(std::string_view text, std::uint64_t largest,
+                                            const form& how);
 
 /// The layout's text of a value; absent where the value has none, such as a date never set.
 template <class Value>
 core::v7::optional<std::string> text_of(const Value& value, const form& how = {}) {
-    if constexpr (convertible_value<Value>) {
+    if constexpr (amount_structure<Value>) {
+        return text_of(value.valor, how);
+    } else if constexpr (convertible_value<Value>) {
         char chars[32];
         std::size_t length = sizeof chars;
         if (core::v7::chars_converter<Value>::make_chars(chars, length, value) != 0 ||
@@ -67,30 +77,30 @@ core::v7::optional<std::string> text_of(const Value& value, const form& how = {}
     }
 }
 
-/// Reads a value from its whole text. A text that the value would not give back to the letter, as
-/// one with a leading zero too many, is refused, and the value stays as it was.
+/// Reads a value from its whole text. A text that the value cannot hold, or that has not the form
+/// of its element, is refused, and the value stays as it was. A text that is read may still be
+/// another than the value's own: that of a number may have more zeros in front.
 template <class Value> bool read_text(Value& value, const std::string& text, const form& how = {}) {
-    Value found{};
-    if constexpr (convertible_value<Value>) {
-        // the terminating zero may be read: an empty text is judged by it
-        if (core::v7::value_converter<Value>::make_value(found, text.c_str(), text.size()) != 0) {
-            return false;
-        }
+    if constexpr (amount_structure<Value>) {
+        return read_text(value.valor, text, how);
+    } else if constexpr (convertible_value<Value>) {
+        // an empty text has a first character, the terminating zero, for converters that want one
+        return core::v7::value_converter<Value>::make_value(value, text.c_str(), text.size()) == 0;
     } else if constexpr (coded_value<Value>) {
-        const auto number = number_of(text, largest_number<Value>(), how.base);
-        if (!number) {
+        const auto number = number_of(text, largest_number<Value>(), how);
+        if (!number || (std::is_enum_v<Value> && how.optional && *number == 0)) {
             return false;
         }
-        found = static_cast<Value>(*number);
+        value = static_cast<Value>(*number);
+        return true;
     } else {
-        found =
-            text.starts_with(how.before) ? text.substr(std::string_view(how.before).size()) : text;
+        const std::string_view before = how.before;
+        if (!text.starts_with(before) || (text.size() == before.size() && !how.empty)) {
+            return false;
+        }
+        value = text.substr(before.size());
+        return true;
     }
-    if (text_of(found, how) != text) {
-        return false;
-    }
-    value = found;
-    return true;
 }
 
 /// What the text of a number should have been, for a person to read.
@@ -98,8 +108,8 @@ std::string expected_number(std::uint64_t largest, const form& how);
 
 /// What a refused text should have been, for a person to read.
 template <class Value> std::string expected_text(const form& how) {
-    if constexpr (std::same_as<Value, fiscal::decimal>) {
-        return "a decimal number such as 1234.56, of at most 17 digits";
+    if constexpr (std::same_as<Value, fiscal::decimal> || amount_structure<Value>) {
+        return "a decimal number such as 1234.56, of at most 17 digits, 15 of them decimal places";
     } else if constexpr (std::same_as<Value, fiscal::date>) {
         return "a date of the calendar, AAAA-MM-DD";
     } else if constexpr (std::same_as<Value, fiscal::datetime>) {

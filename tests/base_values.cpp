@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 namespace kivo::tests {
 
@@ -12,6 +13,12 @@ using erp::v12::cpf;
 using erp::v12::fiscal::date;
 using erp::v12::fiscal::datetime;
 using erp::v12::fiscal::decimal;
+
+// A record holds many of these; their size and their copies are what a copy of it costs.
+template <class Value>
+concept one_word = sizeof(Value) == 8 && std::is_trivially_copyable_v<Value>;
+static_assert(one_word<decimal> && one_word<date> && one_word<datetime> && one_word<cnpj> &&
+              one_word<cpf>);
 
 template <class Value> int read(Value& value, std::string_view text) {
     return core::v7::value_converter<Value>::make_value(value, text.data(), text.size());

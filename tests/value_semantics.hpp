@@ -1,13 +1,16 @@
 #pragma once
 
 #include "support/allocations.hpp"
-#include "support/classes.hpp"
+#include "support/kinds.hpp"
 #include "support/samples.hpp"
+
+#include <fiscal/produto.hpp>
 
 #include <gtest/gtest.h>
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -37,14 +40,33 @@ template <class Class> std::vector<std::string> texts_after_a_move(const Class& 
     }
 }
 
+/// Three accessor pairs of produto stand for one field: setting one of them, even to an absent
+/// value, leaves nothing of the others.
+template <class Class>
+void expect_others_of_one_field_absent(const char* changed, std::vector<std::string>& expected) {
+    const auto is_product_choice = [](std::string_view element) {
+        return element == "med" || element == "arma" || element == "comb";
+    };
+    if constexpr (std::is_same_v<Class, erp::v12::fiscal::produto>) {
+        if (is_product_choice(changed)) {
+            for_each_field<Class>([&](const auto& field, std::size_t index) {
+                if (is_product_choice(field.element)) {
+                    expected[index] = "absent";
+                }
+            });
+        }
+    }
+}
+
 // Catches a setter or a getter that reaches a neighbour of its field.
 TYPED_TEST_P(every_class, setting_one_field_leaves_the_others_alone) {
     for_each_field<TypeParam>([](const auto& changed, std::size_t index) {
         using accessor = std::remove_cvref_t<decltype(changed)>;
         const auto value = sample_for<TypeParam, accessor>(index, 2);
+        ASSERT_NE(text(value), (text(sample_for<TypeParam, accessor>(index, 1))));
         for (TypeParam object : {TypeParam(), sample<TypeParam>(1)}) {
             std::vector<std::string> expected = texts(object);
-            ASSERT_NE(expected[index], text(value)) << changed.element;
+            expect_others_of_one_field_absent<TypeParam>(changed.element, expected);
             expected[index] = text(value);
             (object.*changed.set)(value);
             EXPECT_EQ(texts(object), expected) << changed.element;
@@ -59,6 +81,7 @@ TYPED_TEST_P(every_class, setting_an_absent_value_removes_it) {
         if constexpr (erp::v12::layout::is_optional<value>) {
             for (TypeParam object : {TypeParam(), sample<TypeParam>(1)}) {
                 std::vector<std::string> expected = texts(object);
+                expect_others_of_one_field_absent<TypeParam>(changed.element, expected);
                 expected[index] = "absent";
                 (object.*changed.set)(value());
                 EXPECT_EQ(texts(object), expected) << changed.element;
@@ -170,7 +193,8 @@ TYPED_TEST_P(every_class, records_are_released) {
         object = other;
     }
     EXPECT_EQ(live_blocks(), before);
-    static_assert(!handle<TypeParam> || sizeof(TypeParam) == sizeof(void*));
+    // a handle is one pointer; what stands in place is no larger either
+    static_assert(sizeof(TypeParam) <= sizeof(void*));
 }
 
 REGISTER_TYPED_TEST_SUITE_P(every_class, setting_one_field_leaves_the_others_alone,

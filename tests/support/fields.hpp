@@ -17,39 +17,24 @@ template <class Get, class Set> struct accessor {
 
 namespace detail {
 
-template <class Get, class Set, class Visit>
-void visit_entry(const erp::v12::layout::field<Get, Set>& entry, Visit& visit) {
-    visit(accessor<Get, Set>{entry.name, entry.get, entry.set});
+template <class Entry> const char* name_of(const Entry& entry) {
+    if constexpr (requires { entry.name; }) {
+        return entry.name;
+    } else {
+        return "a field without an element of its own";
+    }
 }
 
-template <class Get, class Set, class Visit>
-void visit_entry(const erp::v12::layout::embedded<Get, Set>& entry, Visit& visit) {
-    visit(accessor<Get, Set>{"an embedded group", entry.get, entry.set});
-}
-
-template <class Get, class Set, class... Places, class Visit>
-void visit_entry(const erp::v12::layout::one_of<Get, Set, Places...>& entry, Visit& visit) {
-    visit(accessor<Get, Set>{"a choice", entry.get, entry.set});
-}
-
-template <class Get, class Set, class Visit>
-void visit_entry(const erp::v12::layout::no_element<Get, Set>& entry, Visit& visit) {
-    visit(accessor<Get, Set>{"a field without an element", entry.get, entry.set});
-}
-
-template <class Visit> void visit_entry(const erp::v12::layout::constant&, Visit&) {}
-
-template <class Entry, class Visit>
-void visit_entry(const erp::v12::layout::again<Entry>&, Visit&) {}
-
-template <class Condition, class Entry, class Visit>
-void visit_entry(const erp::v12::layout::only_if<Condition, Entry>& entry, Visit& visit) {
-    visit_entry(entry.entry, visit);
-}
-
-template <class... Entries, class Visit>
-void visit_entry(const erp::v12::layout::element<Entries...>& entry, Visit& visit) {
-    std::apply([&](const auto&... inner) { (visit_entry(inner, visit), ...); }, entry.entries);
+/// A second place of a field and elements that are no field have neither accessors nor entries.
+template <class Entry, class Visit> void visit_entry(const Entry& entry, Visit& visit) {
+    if constexpr (requires { entry.set; }) {
+        visit(accessor<decltype(entry.get), decltype(entry.set)>{name_of(entry), entry.get,
+                                                                 entry.set});
+    } else if constexpr (requires { entry.entries; }) {
+        std::apply([&](const auto&... inner) { (visit_entry(inner, visit), ...); }, entry.entries);
+    } else if constexpr (requires { entry.condition; }) {
+        visit_entry(entry.entry, visit);
+    }
 }
 
 } // namespace detail

@@ -24,12 +24,19 @@ inline constexpr bool is_variant<core::v7::variant<Alternatives...>> = true;
 template <class Accessor, class Class>
 using value_of = erp::v12::layout::value_of<decltype(Accessor::get), Class>;
 
+/// A structure of nothing but an amount.
+template <class Value>
+concept amount_structure = requires(Value& value) {
+    { value.valor } -> std::same_as<erp::v12::fiscal::decimal&>;
+};
+
 template <class Value> Value sample(std::size_t number);
 
 namespace detail {
 
 template <class Variant> Variant sample_variant(std::size_t number) {
-    const std::size_t wanted = number % std::variant_size_v<Variant>;
+    // neighbours differ, and so do the same field of neighbouring objects
+    const std::size_t wanted = (number + number / 64) % std::variant_size_v<Variant>;
     core::v7::optional<Variant> result;
     [&]<std::size_t... index>(std::index_sequence<index...>) {
         ((index == wanted
@@ -71,6 +78,8 @@ template <class Value> Value sample(std::size_t number) {
         return static_cast<Value>(number % 251 + 1);
     } else if constexpr (std::same_as<Value, core::v7::monostate>) {
         return {};
+    } else if constexpr (amount_structure<Value>) {
+        return {base_sample<erp::v12::fiscal::decimal>(number)};
     } else {
         return base_sample<Value>(number);
     }
@@ -112,6 +121,8 @@ template <class Value> std::string text(const Value& value) {
         return std::to_string(static_cast<std::uint64_t>(value));
     } else if constexpr (std::same_as<Value, core::v7::monostate>) {
         return "nothing";
+    } else if constexpr (amount_structure<Value>) {
+        return base_text(value.valor);
     } else {
         return base_text(value);
     }

@@ -68,6 +68,8 @@ public:
 
     std::uint64_t number() const { return number_; }
 
+    friend bool operator==(const counted&, const counted&) = default; // for the layout map alone
+
 private:
     std::uint64_t number_ = 0;
 };

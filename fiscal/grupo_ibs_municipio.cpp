@@ -1,0 +1,59 @@
+#include <fiscal/grupo_ibs_municipio.hpp>
+
+#include <fiscal/grupo_informacoes_devolucao.hpp>
+#include <fiscal/grupo_informacoes_diferimento.hpp>
+#include <fiscal/grupo_informacoes_reducao.hpp>
+
+namespace kivo::erp::v12::fiscal {
+
+struct grupo_ibs_municipio::record {
+    decimal aliquota_ibs;
+    optional<grupo_informacoes_diferimento> informacoes_diferimento;
+    optional<grupo_informacoes_devolucao> informacoes_devolucao;
+    optional<grupo_informacoes_reducao> informacoes_reducao;
+    decimal valor_ibs;
+};
+
+grupo_ibs_municipio::grupo_ibs_municipio() noexcept = default;
+grupo_ibs_municipio::grupo_ibs_municipio(const grupo_ibs_municipio&) noexcept = default;
+grupo_ibs_municipio::grupo_ibs_municipio(grupo_ibs_municipio&&) noexcept = default;
+grupo_ibs_municipio& grupo_ibs_municipio::operator=(const grupo_ibs_municipio&) noexcept = default;
+grupo_ibs_municipio& grupo_ibs_municipio::operator=(grupo_ibs_municipio&&) noexcept = default;
+grupo_ibs_municipio::~grupo_ibs_municipio() = default;
+void grupo_ibs_municipio::swap(grupo_ibs_municipio& other) noexcept { record_.swap(other.record_); }
+
+decimal grupo_ibs_municipio::get_aliquota_ibs() const { return record_.get(&record::aliquota_ibs); }
+void grupo_ibs_municipio::set_aliquota_ibs(const decimal& value) {
+    record_.set(&record::aliquota_ibs, value);
+}
+
+optional<grupo_informacoes_diferimento> grupo_ibs_municipio::get_informacoes_diferimento() const {
+    return record_.get(&record::informacoes_diferimento);
+}
+void grupo_ibs_municipio::set_informacoes_diferimento(
+    const optional<grupo_informacoes_diferimento>& value) {
+    record_.set(&record::informacoes_diferimento, value);
+}
+
+optional<grupo_informacoes_devolucao> grupo_ibs_municipio::get_informacoes_devolucao() const {
+    return record_.get(&record::informacoes_devolucao);
+}
+void grupo_ibs_municipio::set_informacoes_devolucao(
+    const optional<grupo_informacoes_devolucao>& value) {
+    record_.set(&record::informacoes_devolucao, value);
+}
+
+optional<grupo_informacoes_reducao> grupo_ibs_municipio::get_informacoes_reducao() const {
+    return record_.get(&record::informacoes_reducao);
+}
+void grupo_ibs_municipio::set_informacoes_reducao(
+    const optional<grupo_informacoes_reducao>& value) {
+    record_.set(&record::informacoes_reducao, value);
+}
+
+decimal grupo_ibs_municipio::get_valor_ibs() const { return record_.get(&record::valor_ibs); }
+void grupo_ibs_municipio::set_valor_ibs(const decimal& value) {
+    record_.set(&record::valor_ibs, value);
+}
+
+} // namespace kivo::erp::v12::fiscal

@@ -1,0 +1,64 @@
+#include <fiscal/grupo_tributacao_icms_00.hpp>
+
+#include <fiscal/grupo_fcp.hpp>
+
+namespace kivo::erp::v12::fiscal {
+
+struct grupo_tributacao_icms_00::record {
+    origem_cst origem_mercadoria = {};
+    fiscal::cst cst = {};
+    fiscal::modalidade_bc_icms modalidade_bc_icms = {};
+    optional<decimal> valor_bc_icms;
+    optional<decimal> aliquota_icms;
+    optional<decimal> valor_icms;
+    optional<grupo_fcp> fcp;
+};
+
+grupo_tributacao_icms_00::grupo_tributacao_icms_00() = default;
+grupo_tributacao_icms_00::grupo_tributacao_icms_00(const grupo_tributacao_icms_00&) = default;
+grupo_tributacao_icms_00::grupo_tributacao_icms_00(grupo_tributacao_icms_00&&) = default;
+grupo_tributacao_icms_00&
+grupo_tributacao_icms_00::operator=(const grupo_tributacao_icms_00&) = default;
+grupo_tributacao_icms_00& grupo_tributacao_icms_00::operator=(grupo_tributacao_icms_00&&) = default;
+grupo_tributacao_icms_00::~grupo_tributacao_icms_00() = default;
+
+origem_cst grupo_tributacao_icms_00::get_origem_mercadoria() const {
+    return record_->origem_mercadoria;
+}
+void grupo_tributacao_icms_00::set_origem_mercadoria(origem_cst value) {
+    record_->origem_mercadoria = value;
+}
+
+cst grupo_tributacao_icms_00::get_cst() const { return record_->cst; }
+void grupo_tributacao_icms_00::set_cst(cst value) { record_->cst = value; }
+
+modalidade_bc_icms grupo_tributacao_icms_00::get_modalidade_bc_icms() const {
+    return record_->modalidade_bc_icms;
+}
+void grupo_tributacao_icms_00::set_modalidade_bc_icms(modalidade_bc_icms value) {
+    record_->modalidade_bc_icms = value;
+}
+
+optional<decimal> grupo_tributacao_icms_00::get_valor_bc_icms() const {
+    return record_->valor_bc_icms;
+}
+void grupo_tributacao_icms_00::set_valor_bc_icms(const optional<decimal>& value) {
+    record_->valor_bc_icms = value;
+}
+
+optional<decimal> grupo_tributacao_icms_00::get_aliquota_icms() const {
+    return record_->aliquota_icms;
+}
+void grupo_tributacao_icms_00::set_aliquota_icms(const optional<decimal>& value) {
+    record_->aliquota_icms = value;
+}
+
+optional<decimal> grupo_tributacao_icms_00::get_valor_icms() const { return record_->valor_icms; }
+void grupo_tributacao_icms_00::set_valor_icms(const optional<decimal>& value) {
+    record_->valor_icms = value;
+}
+
+optional<grupo_fcp> grupo_tributacao_icms_00::get_fcp() const { return record_->fcp; }
+void grupo_tributacao_icms_00::set_fcp(const optional<grupo_fcp>& value) { record_->fcp = value; }
+
+} // namespace kivo::erp::v12::fiscal

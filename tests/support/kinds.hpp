@@ -1,0 +1,43 @@
+#pragma once
+
+#include "fields.hpp"
+
+#include <base/optional.hpp>
+#include <base/variant.hpp>
+
+#include <type_traits>
+#include <vector>
+
+/// What the kinds of classes promise, read off their members.
+namespace kivo::tests {
+
+/// No record until a field is stored: the classes that can swap.
+template <class Class>
+concept lazy = requires(Class& left, Class& right) {
+    left.swap(right);
+};
+
+/// A class whose copy may not fail: a failure ends the process.
+template <class Class>
+concept copy_ends = lazy<Class> && std::is_nothrow_copy_constructible_v<Class>;
+
+/// Whether copying a value can end the process, by a class of that kind somewhere in it.
+template <class Value> struct may_end {
+    static bool value() {
+        bool result = copy_ends<Value>;
+        if constexpr (erp::v12::layout::group<Value>) {
+            for_each_field<Value>([&](const auto& field, std::size_t) {
+                using inner = erp::v12::layout::value_of<decltype(field.get), Value>;
+                result = result || may_end<inner>::value();
+            });
+        }
+        return result;
+    }
+};
+template <class Value> struct may_end<core::v7::optional<Value>> : may_end<Value> {};
+template <class Value> struct may_end<std::vector<Value>> : may_end<Value> {};
+template <class... Alternatives> struct may_end<core::v7::variant<Alternatives...>> {
+    static bool value() { return (may_end<Alternatives>::value() || ...); }
+};
+
+} // namespace kivo::tests
