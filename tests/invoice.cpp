@@ -15,8 +15,8 @@ using erp::v12::layout::read_file;
 using erp::v12::layout::read_xml;
 
 std::string invoice_with(const std::string& content) {
-    return "<NFe xmlns='http://www.portalfiscal.inf.br/nfe'><infNFe Id='NFe' versao='4.00'>" +
-           content + "</infNFe></NFe>";
+    return "<NFe xmlns='http://www.portalfiscal.inf.br/nfe'><infNFe versao='4.00' Id='NFe" +
+           std::string(44, '1') + "'>" + content + "</infNFe></NFe>";
 }
 
 // Catches an element that moves, is lost or comes back changed, in either direction.
