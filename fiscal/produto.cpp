@@ -303,7 +303,8 @@ void produto::set_tributos_devolvidos(const optional<fiscal::tributos_devolvidos
 optional<produto::tributacao> produto::get_tributacao() const { return record_->tributacao; }
 void produto::set_tributacao(const optional<tributacao>& value) {
     const issqn* const service = value ? std::get_if<issqn>(&*value) : nullptr;
-    if (service && record_->tributacao && !std::holds_alternative<issqn>(*record_->tributacao)) {
+    if (service != nullptr && record_->tributacao &&
+        !std::holds_alternative<issqn>(*record_->tributacao)) {
         // assignment would copy the ISSQN aside and keep the ICMS when that fails; as with every
         // other change of kind, the old tax goes first
         record_->tributacao->emplace<issqn>(*service);
