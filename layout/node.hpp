@@ -1,5 +1,7 @@
 #pragma once
 
+#include <base/optional.hpp>
+
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -51,5 +53,25 @@ struct reading {
 /// Sums up a document after its groups were read. Paths start below the node that is given, and
 /// number the elements that stand there more than once: `det[2]/prod/cProd`.
 reading sum_up(const node& document);
+
+/// A text of a document, and where it stands.
+struct placed_text {
+    std::string path;
+    std::string text;
+};
+
+/// All texts of a document in their order, at the paths that `sum_up` tells.
+std::vector<placed_text> placed_texts(const node& document);
+
+/// What stands at one path of two documents; absent where a document has no such text.
+struct difference {
+    std::string path;
+    core::v7::optional<std::string> left;
+    core::v7::optional<std::string> right;
+};
+
+/// The texts in which two documents differ, in the order of the documents. Elements of one name
+/// are compared in their order, and numbered where either document has more than one.
+std::vector<difference> differences(const node& left, const node& right);
 
 } // namespace kivo::erp::v12::layout
