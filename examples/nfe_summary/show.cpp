@@ -1,0 +1,235 @@
+#include "show.hpp"
+
+#include "names.hpp"
+#include "values.hpp"
+
+#include <layout/text.hpp>
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace nfe_summary {
+
+namespace {
+
+using fiscal::nota_fiscal;
+
+std::vector<std::string> references(const nota_fiscal& invoice) {
+    std::vector<std::string> result;
+    for (const auto& reference : invoice.get_nfe_referenciadas()) {
+        result.push_back(key(reference.get_chave_nfe()));
+    }
+    const auto add_paper_invoice = [&](const auto& reference) {
+        result.push_back(fmt::format("paper invoice {}, series {}, issued {:02}/20{:02}",
+                                     reference.get_numero(), reference.get_serie(),
+                                     reference.get_ano_mes_emissao() % 100,
+                                     reference.get_ano_mes_emissao() / 100));
+    };
+    for (const auto& reference : invoice.get_nf_referenciadas()) {
+        add_paper_invoice(reference);
+    }
+    for (const auto& reference : invoice.get_nfp_referenciadas()) {
+        add_paper_invoice(reference);
+    }
+    for (const auto& reference : invoice.get_cupons_referenciados()) {
+        result.push_back(
+            fmt::format("coupon {} of printer {}", reference.get_coo(), reference.get_ecf()));
+    }
+    return result;
+}
+
+std::string number_of(const optional<fiscal::cnpj>& company, const optional<std::string>& person) {
+    return joined(
+        {labelled("CNPJ", cnpj_text(company)), labelled("CPF", cpf_text(person.value_or("")))});
+}
+
+std::string with_trade_name(const fiscal::emitente& issuer) {
+    const std::string name = issuer.get_razao_social();
+    const std::string trade_name = issuer.get_nome_fantasia().value_or("");
+    return trade_name.empty() || trade_name == name ? name
+                                                    : fmt::format("{} ({})", name, trade_name);
+}
+
+void show_issuer(const page& out, const fiscal::emitente& issuer) {
+    out.fields("Issuer",
+               {with_trade_name(issuer),
+                joined({number_of(issuer.get_cnpj(), {}), labelled("state reg.", issuer.get_ie()),
+                        labelled("ST reg.", issuer.get_iest()),
+                        labelled("city reg.", issuer.get_inscricao_municipal()),
+                        name_of(issuer.get_regime_fiscal())}),
+                joined({address(issuer.get_endereco()), labelled("tel.", issuer.get_telefone())})});
+}
+
+void show_recipient(const page& out, const optional<fiscal::destinatario>& recipient) {
+    if (!recipient) {
+        out.field("Recipient", "not named");
+        return;
+    }
+    const auto place = recipient->get_endereco();
+    out.fields("Recipient",
+               {recipient->get_razao_social().value_or(""),
+                joined({number_of(recipient->get_cnpj(), recipient->get_cpf()),
+                        labelled("foreign id", recipient->get_indicador_estrangeiro()),
+                        labelled("state reg.", recipient->get_ie()),
+                        labelled("SUFRAMA", recipient->get_inscricao_suframa())}),
+                joined({place ? address(*place) : "", labelled("tel.", recipient->get_telefone()),
+                        recipient->get_email().value_or("")})});
+}
+
+/// Texts behind amounts that end below each other.
+std::vector<std::string> behind_amounts(const std::vector<std::string>& amounts,
+                                        const std::vector<std::string>& texts) {
+    std::size_t width = 0;
+    for (const std::string& amount : amounts) {
+        width = std::max(width, columns(amount));
+    }
+    std::vector<std::string> result;
+    for (std::size_t index = 0; index < texts.size(); ++index) {
+        result.push_back(right(amounts[index], width) + "  " + texts[index]);
+    }
+    return result;
+}
+
+} // namespace
+
+void show_head(const page& out, const nota_fiscal& invoice) {
+    const std::string model = invoice.get_modelo_emissao();
+    out.heading(fmt::format("{} {}, series {}, model {}", model == "65" ? "NFC-e" : "NF-e",
+                            invoice.get_numero(), invoice.get_serie(), model));
+    out.field("Key", key(invoice.get_chave_44_digitos()));
+    out.field("Issued", time(invoice.get_data_emissao()));
+    out.field(invoice.get_tipo_operacao() == nota_fiscal::tipo_operacao::entrada ? "Entry"
+                                                                                 : "Departure",
+              time(invoice.get_data_saida_entrada()));
+    out.field("Operation",
+              joined({invoice.get_natureza_operacao(), name_of(invoice.get_tipo_operacao()),
+                      name_of(invoice.get_indicador_operacao())}));
+    if (invoice.get_indicador_finalidade_emissao() !=
+        nota_fiscal::indicador_finalidade_emissao::normal) {
+        out.field("Purpose", name_of(invoice.get_indicador_finalidade_emissao()));
+    }
+    if (invoice.get_indicador_ambiente() == nota_fiscal::indicador_ambiente::homologacao) {
+        out.field("Environment", "test, without fiscal value");
+    }
+    if (invoice.get_tipo_emissao() != fiscal::tipo_emissao::normal) {
+        out.field("Emission",
+                  joined({name_of(invoice.get_tipo_emissao()),
+                          labelled("since", time(invoice.get_data_contingencia())),
+                          invoice.get_justificativa_entrada_contingencia().value_or("")}));
+    }
+    out.fields("Refers to", references(invoice));
+    show_issuer(out, invoice.get_emitente());
+    show_recipient(out, invoice.get_destinatario());
+    if (const auto place = invoice.get_local_entrega()) {
+        out.fields("Delivery to", {number_of(place->get_cnpj(), place->get_cpf()),
+                                   address(place->get_endereco())});
+    }
+}
+
+void show_transport(const page& out, const fiscal::informacoes_transporte& transport) {
+    out.field("Transport", name_of(transport.get_modalidade_frete()));
+    if (const auto carrier = transport.get_transportador()) {
+        optional<fiscal::cnpj> company;
+        optional<std::string> person;
+        if (const auto document = carrier->get_documento()) {
+            // a person is the first alternative
+            if (document->index() == 0) {
+                person = layout::text_of(std::get<0>(*document));
+            } else {
+                company = std::get<1>(*document);
+            }
+        }
+        out.fields(
+            "Carrier",
+            {joined({carrier->get_razao_social().value_or(""), number_of(company, person),
+                     labelled("state reg.", carrier->get_ie())}),
+             joined({carrier->get_endereco().value_or(""),
+                     joined({carrier->get_municipio().value_or(""), carrier->get_uf().value_or("")},
+                            " - ")})});
+    }
+    if (const auto vehicle = transport.get_veiculo()) {
+        out.field("Vehicle", joined({joined({vehicle->get_placa(), vehicle->get_uf()}, " - "),
+                                     labelled("RNTC", vehicle->get_rntc())}));
+    }
+    std::vector<std::string> volumes;
+    for (const fiscal::volume& volume : transport.get_volumes()) {
+        const auto kilograms = [](const optional<fiscal::decimal>& weight) {
+            return weight ? quantity(*weight) + " kg" : "";
+        };
+        const std::uint32_t count = volume.get_quantidade(); // 0: not told
+        volumes.push_back(joined(
+            {joined({count == 0 ? "" : fmt::to_string(count), volume.get_especie().value_or("")},
+                    " "),
+             volume.get_marca().value_or(""), volume.get_numeracao().value_or(""),
+             labelled("net", kilograms(volume.get_peso_liquido())),
+             labelled("gross", kilograms(volume.get_peso_bruto()))}));
+    }
+    out.fields("Volumes", volumes);
+}
+
+void show_payment(const page& out, const nota_fiscal& invoice) {
+    const auto payment = invoice.get_informacoes_pagamento();
+    std::vector<std::string> amounts;
+    std::vector<std::string> payments;
+    for (const auto& part : payment.get_detalhes_pagamento()) {
+        const auto terms = part.get_indicador_forma_pagamento();
+        const auto card = part.get_transacao_tef();
+        amounts.push_back(amount(part.get_valor_pagamento()));
+        payments.push_back(joined(
+            {name_of(part.get_meio_pagamento()), part.get_descricao_meio_pagamento().value_or(""),
+             terms ? name_of(*terms) : "", day(part.get_data_pagamento()),
+             labelled("authorised", card ? card->get_numero_autorizacao() : std::nullopt)}));
+    }
+    out.fields("Payments", behind_amounts(amounts, payments));
+    out.field("Change", amount(payment.get_valor_total_troco()));
+    if (const auto billing = invoice.get_cobranca()) {
+        out.field("Bill", joined({billing->get_numero_fatura().value_or(""),
+                                  amount(billing->get_valor_original_fatura()),
+                                  labelled("less", amount(billing->get_valor_desconto())),
+                                  labelled("net", amount(billing->get_valor_liquido()))}));
+        amounts.clear();
+        std::vector<std::string> instalments;
+        for (const fiscal::duplicata& part : billing->get_duplicatas()) {
+            amounts.push_back(amount(part.get_valor_duplicata()));
+            instalments.push_back(joined({labelled("due", day(part.get_data_vencimento())),
+                                          part.get_numero_duplicata().value_or("")}));
+        }
+        out.fields("Instalments", behind_amounts(amounts, instalments));
+    }
+}
+
+void show_texts(const page& out, const nota_fiscal& invoice) {
+    if (const auto agent = invoice.get_informacoes_intermediador()) {
+        out.field("Intermediary", joined({labelled("CNPJ", cnpj_text(agent->get_cnpj())),
+                                          agent->get_identificador_cadastrado()}));
+    }
+    if (const auto exported = invoice.get_comercio_exterior()) {
+        out.field("Export", joined({exported->get_local_embarque(), exported->get_uf_saida(),
+                                    exported->get_local_despacho().value_or("")}));
+    }
+    if (const auto texts = invoice.get_informacoes_adicionais()) {
+        out.field("Notes", texts->get_informacoes_complementares().value_or(""));
+        out.field("To the tax off.", texts->get_informacoes_adicionais_fisco().value_or(""));
+    }
+}
+
+void show(const page& out, const layout::invoice_document& document) {
+    const nota_fiscal& invoice = document.invoice;
+    show_head(out, invoice);
+    out.line("");
+    show_items(out, invoice.get_produtos());
+    out.line("");
+    show_totals(out, invoice.get_total_nfe());
+    out.line("");
+    show_payment(out, invoice);
+    show_transport(out, invoice.get_informacoes_transporte());
+    show_texts(out, invoice);
+    out.line("");
+    show_reading(out, document.result);
+}
+
+} // namespace nfe_summary

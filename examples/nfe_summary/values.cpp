@@ -1,0 +1,128 @@
+#include "values.hpp"
+
+#include <layout/text.hpp>
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <charconv>
+
+namespace nfe_summary {
+
+namespace {
+
+constexpr std::size_t most_places = 15; // of a decimal
+constexpr std::int64_t one = 1'000'000'000'000'000;
+
+/// `-1234.5` as `-1.234,50`.
+std::string in_brazilian_form(std::string_view text, std::size_t places) {
+    const std::size_t point = std::min(text.find('.'), text.size());
+    std::string whole(text.substr(0, point));
+    for (std::size_t place = 3, first = whole.starts_with('-') ? 1 : 0;
+         whole.size() > first + place; place += 4) {
+        whole.insert(whole.size() - place, 1, '.');
+    }
+    std::string decimals(text.substr(std::min(point + 1, text.size())));
+    while (decimals.size() > places && decimals.ends_with('0')) {
+        decimals.pop_back();
+    }
+    decimals.resize(std::max(decimals.size(), places), '0');
+    return decimals.empty() ? whole : whole + ',' + decimals;
+}
+
+/// `AAAA-MM-DD`, and what may follow, as `DD/MM/AAAA`.
+std::string day_first(std::string_view text) {
+    return text.empty() ? ""
+                        : fmt::format("{2}/{1}/{0}", text.substr(0, 4), text.substr(5, 2),
+                                      text.substr(8, 2));
+}
+
+/// Puts a text into a pattern whose # stand for its characters; a text of another length stays.
+std::string punctuated(std::string_view text, std::string_view pattern) {
+    std::string result;
+    std::size_t used = 0;
+    for (const char character : pattern) {
+        if (character != '#') {
+            result += character;
+        } else if (used < text.size()) {
+            result += text[used++];
+        } else {
+            return std::string(text);
+        }
+    }
+    return used == text.size() ? result : std::string(text);
+}
+
+} // namespace
+
+std::string amount(const fiscal::decimal& value, std::size_t places) {
+    return in_brazilian_form(layout::text_of(value).value_or(""), places);
+}
+
+std::string amount(const optional<fiscal::decimal>& value, std::size_t places) {
+    return value ? amount(*value, places) : "";
+}
+
+std::string quantity(const fiscal::decimal& value) { return amount(value, 0); }
+
+void decimal_sum::add(const fiscal::decimal& value) {
+    const std::string text = layout::text_of(value).value_or("");
+    const std::size_t point = std::min(text.find('.'), text.size());
+    std::string digits = text.substr(0, point);
+    std::string decimals = text.substr(std::min(point + 1, text.size()));
+    decimals.resize(most_places, '0');
+    std::int64_t whole = 0;
+    std::int64_t fraction = 0;
+    std::from_chars(digits.data(), digits.data() + digits.size(), whole);
+    std::from_chars(decimals.data(), decimals.data() + decimals.size(), fraction);
+    units_ += static_cast<wide>(whole) * one + (digits.starts_with('-') ? -fraction : fraction);
+    empty_ = false;
+}
+
+void decimal_sum::add(const optional<fiscal::decimal>& value) {
+    if (value) {
+        add(*value);
+    }
+}
+
+std::string decimal_sum::text() const {
+    const wide size = units_ < 0 ? -units_ : units_;
+    return empty_ ? ""
+                  : in_brazilian_form(fmt::format("{}{}.{:015}", units_ < 0 ? "-" : "", size / one,
+                                                  static_cast<std::int64_t>(size % one)),
+                                      2);
+}
+
+std::string day(const optional<fiscal::date>& value) {
+    return day_first((value ? layout::text_of(*value) : std::nullopt).value_or(""));
+}
+
+std::string time(const optional<fiscal::datetime>& value) {
+    const std::string text = (value ? layout::text_of(*value) : std::nullopt).value_or("");
+    return text.empty() ? "" : joined({day_first(text), text.substr(11, 8), text.substr(19)}, " ");
+}
+
+std::string key(std::string_view text) {
+    return punctuated(text, "#### #### #### #### #### #### #### #### #### #### ####");
+}
+
+std::string cnpj_text(const optional<fiscal::cnpj>& number) {
+    const std::string text = (number ? layout::text_of(*number) : std::nullopt).value_or("");
+    return punctuated(text, "##.###.###/####-##");
+}
+
+std::string cpf_text(std::string_view number) { return punctuated(number, "###.###.###-##"); }
+
+std::string address(const fiscal::endereco& place) {
+    const auto postal_code = place.get_cep();
+    const std::string digits =
+        postal_code ? layout::number_text(*postal_code, layout::digits(8)) : "";
+    return joined({place.get_logradouro(), place.get_numero_endereco(),
+                   place.get_complemento().value_or(""), place.get_bairro(),
+                   joined({punctuated(digits, "#####-###"),
+                           joined({place.get_nome_municipio(), place.get_uf()}, " - ")},
+                          " "),
+                   place.get_pais().value_or("")});
+}
+
+} // namespace nfe_summary

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "text.hpp"
+
+#include <layout/node.hpp>
+
+#include <fiscal/endereco.hpp>
+#include <fiscal/types.hpp>
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+/// Values as a person in Brazil reads them. What has no text, such as a date never set, is empty.
+namespace nfe_summary {
+
+namespace fiscal = kivo::erp::v12::fiscal;
+namespace layout = kivo::erp::v12::layout;
+
+/// `1.234,56`, from the digits of the value: at least so many decimal places, and more only where
+/// they are not zero.
+std::string amount(const fiscal::decimal& value, std::size_t places = 2);
+std::string amount(const optional<fiscal::decimal>& value, std::size_t places = 2);
+
+/// A quantity: `12`, `0,5`.
+std::string quantity(const fiscal::decimal& value);
+
+/// The exact sum of decimal numbers.
+class decimal_sum {
+public:
+    void add(const fiscal::decimal& value);
+    void add(const optional<fiscal::decimal>& value);
+
+    /// The sum as an amount; empty when nothing was added.
+    std::string text() const;
+
+private:
+    __extension__ using wide = __int128;
+
+    bool empty_ = true;
+    wide units_ = 0; // of the smallest decimal place that a value can have
+};
+
+/// `12/08/2026`.
+std::string day(const optional<fiscal::date>& value);
+
+/// `12/08/2026 13:45:10 -03:00`.
+std::string time(const optional<fiscal::datetime>& value);
+
+/// An access key in groups of four.
+std::string key(std::string_view text);
+
+std::string cnpj_text(const optional<fiscal::cnpj>& number);
+std::string cpf_text(std::string_view number);
+
+/// Street, number, complement, district, postal code, city, state and country in one text.
+std::string address(const fiscal::endereco& place);
+
+} // namespace nfe_summary
