@@ -1,13 +1,11 @@
 #pragma once
 
-#include "support/allocations.hpp"
-#include "support/child.hpp"
+#include "support/failures.hpp"
 #include "support/kinds.hpp"
 #include "support/samples.hpp"
 
 #include <gtest/gtest.h>
 
-#include <new>
 #include <optional>
 #include <string>
 #include <type_traits>
@@ -19,63 +17,6 @@ namespace kivo::tests {
 
 template <class Class> class every_failure : public ::testing::Test {};
 TYPED_TEST_SUITE_P(every_failure);
-
-/// How a failure has to end.
-enum class promise {
-    propagates,
-    ends,   ///< the process, by std::terminate
-    either, ///< ends in a copy that may not fail, propagates elsewhere
-};
-
-/// Runs an operation again and again while its first, second, ... allocation fails, alone or with
-/// all that follow, until it comes through. A failure that reaches the caller may lose nothing;
-/// `check` sees what it left. `prepare` makes what the operation works on.
-template <class Prepare, class Operation, class Check>
-void fail_each_allocation(promise promised, Prepare prepare, Operation operation, Check check) {
-    using failing = allocation_limit::failing;
-    const auto attempt = [&](std::size_t allowed, failing kind) {
-        const std::size_t start = live_blocks();
-        auto result = outcome::came_through;
-        {
-            auto object = prepare();
-            const std::size_t before = live_blocks();
-            bool reached = false;
-            {
-                allocation_limit limit(allowed, kind);
-                try {
-                    operation(object);
-                } catch (const std::bad_alloc&) {
-                    result = outcome::propagated;
-                }
-                reached = limit.was_reached();
-            }
-            EXPECT_EQ(result == outcome::propagated, reached) << "failure " << allowed;
-            if (reached) {
-                check(object, before);
-            }
-        }
-        EXPECT_EQ(live_blocks(), start) << "failure " << allowed;
-        return result;
-    };
-    // in a large class most points are of one kind: some of them stand for all
-    auto object = prepare();
-    const std::size_t start = taken_blocks();
-    operation(object);
-    const std::size_t step =
-        promised == promise::propagates ? 1 : (taken_blocks() - start) / 50 + 1;
-    for (const failing kind : {failing::once, failing::from_then_on}) {
-        auto result = outcome::propagated;
-        for (std::size_t allowed = 0;
-             result != outcome::came_through && !::testing::Test::HasFailure(); allowed += step) {
-            if (promised == promise::propagates) {
-                result = attempt(allowed, kind);
-            } else {
-                result = in_child([&] { return attempt(allowed, kind); });
-                EXPECT_FALSE(promised == promise::ends && result == outcome::propagated) << allowed;
-            }
-        }
-    }
-}
 
 /// The texts of an object's own fields and of those of its groups, down to the single values.
 template <class Value> void add_single_texts(const Value& value, std::vector<std::string>& result) {

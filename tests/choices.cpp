@@ -1,0 +1,223 @@
+#include "support/failures.hpp"
+#include "support/kinds.hpp"
+#include "support/samples.hpp"
+
+#include <layout/document.hpp>
+#include <layout/items.hpp>
+#include <layout/transport.hpp>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <numeric>
+#include <string>
+#include <utility>
+#include <variant>
+#include <vector>
+
+/// The fields that hold one of several kinds of value.
+namespace kivo::tests {
+
+using namespace erp::v12::fiscal;
+using core::v7::optional;
+
+/// Whatever is to be made of it fails.
+template <class Value> struct refusing {
+    struct refusal {};
+    operator Value() const { throw refusal(); }
+};
+
+/// Every state of a choice: each alternative at its default and at a sample, no alternative at all,
+/// and, where the layout may leave it out, an absent one.
+template <class Value> std::vector<Value> states(std::size_t number) {
+    std::vector<Value> result;
+    if constexpr (erp::v12::layout::is_optional<Value>) {
+        result.emplace_back();
+        for (const auto& state : states<typename Value::value_type>(number)) {
+            result.emplace_back(state);
+        }
+    } else if constexpr (is_variant<Value>) {
+        const auto add_alternative = [&]<std::size_t index>() {
+            for (const auto& state : states<std::variant_alternative_t<index, Value>>(number)) {
+                result.emplace_back(std::in_place_index<index>, state);
+            }
+        };
+        [&]<std::size_t... index>(std::index_sequence<index...>) {
+            (add_alternative.template operator()<index>(), ...);
+        }
+        (std::make_index_sequence<std::variant_size_v<Value>>());
+        using first = refusing<std::variant_alternative_t<0, Value>>;
+        Value valueless = result.front();
+        EXPECT_THROW(valueless.template emplace<0>(first()), typename first::refusal);
+        result.push_back(valueless);
+    } else {
+        result = {Value(), sample<Value>(number)};
+    }
+    return result;
+}
+
+template <class Class> class every_choice : public ::testing::Test {};
+using holders = ::testing::Types<declaracao_importacao, grupo_agropecuario, grupo_cbs_cred_pres,
+                                 grupo_ibs_cred_pres, medicamento, produto, sequencia_cred_pres,
+                                 sequencia_ibs_cbs, transportador, tributacao_pis_cofins>;
+TYPED_TEST_SUITE(every_choice, holders);
+
+// Catches a switch that keeps something of the old kind, and a choice without a value that does not
+// travel as one.
+TYPED_TEST(every_choice, changes_from_any_state_to_any_other) {
+    for_each_field<TypeParam>([](const auto& field, std::size_t) {
+        using value = value_of<std::remove_cvref_t<decltype(field)>, TypeParam>;
+        if constexpr (is_variant<value> || is_variant<typename optional<value>::value_type>) {
+            for (const value& from : states<value>(1)) {
+                for (const value& to : states<value>(2)) {
+                    TypeParam set;
+                    (set.*field.set)(from);
+                    TypeParam copied_to = set;
+                    TypeParam moved_to = set;
+                    (set.*field.set)(to);
+                    copied_to = set;
+                    const TypeParam copy = set;
+                    const auto expected = text(to);
+                    EXPECT_EQ(text((set.*field.get)()), expected) << "from " << text(from);
+                    EXPECT_EQ(text((copied_to.*field.get)()), expected) << "from " << text(from);
+                    EXPECT_EQ(text((copy.*field.get)()), expected);
+                    moved_to = std::move(set);
+                    EXPECT_EQ(text((moved_to.*field.get)()), expected) << "from " << text(from);
+                    const TypeParam moved = std::move(moved_to);
+                    EXPECT_EQ(text((moved.*field.get)()), expected);
+                }
+            }
+        }
+    });
+}
+
+/// Which alternatives an item's tax stands in: of the outer choice, and of the ICMS.
+std::string tax_of(const produto& item) {
+    const auto tax = item.get_tributacao();
+    if (!tax) {
+        return "absent";
+    }
+    if (const auto* const icms = std::get_if<produto::icms>(&*tax)) {
+        return "ICMS " + std::to_string(static_cast<std::ptrdiff_t>(icms->index()));
+    }
+    return tax->valueless_by_exception() ? "nothing" : "ISSQN";
+}
+
+// Catches two ICMS groups that change places.
+TEST(choices, of_the_icms_stand_in_their_order) {
+    std::vector<std::string> found;
+    const auto add = [&](const auto& group) {
+        produto item;
+        item.set_tributacao(produto::tributacao(produto::icms(group)));
+        found.push_back(tax_of(item));
+    };
+    const auto add_each = [&](const auto&... groups) { (add(groups), ...); };
+    add_each(grupo_tributacao_icms_00(), grupo_tributacao_icms_10(), grupo_tributacao_icms_20(),
+             grupo_tributacao_icms_30(), grupo_tributacao_icms_40(), grupo_tributacao_icms_51(),
+             grupo_tributacao_icms_60(), grupo_tributacao_icms_70(), grupo_tributacao_icms_90(),
+             grupo_tributacao_icms_101(), grupo_tributacao_icms_102(), grupo_tributacao_icms_201(),
+             grupo_tributacao_icms_202(), grupo_tributacao_icms_500(), grupo_tributacao_icms_900(),
+             grupo_repasse_icms_st(), grupo_tributacao_icms_02(), grupo_tributacao_icms_15(),
+             grupo_tributacao_icms_53(), grupo_tributacao_icms_61());
+    std::vector<std::string> expected;
+    for (int index = 0; index < 20; ++index) {
+        expected.push_back("ICMS " + std::to_string(index));
+    }
+    EXPECT_EQ(found, expected);
+}
+
+template <class Class> using change = std::function<void(Class&)>;
+
+template <class Class, class Parameter>
+change<Class> setting(void (Class::*set)(Parameter), const std::remove_cvref_t<Parameter>& value) {
+    return [set, value](Class& object) { (object.*set)(value); };
+}
+
+/// Lets each change of a new object fail at each allocation after any other. `held` names what an
+/// object holds, and `left` what a failure has to leave of one that went from this to that.
+template <class Class, class Held, class Left>
+void fail_each_change(const std::vector<change<Class>>& changes, Held held, Left left) {
+    for (const change<Class>& first : changes) {
+        for (const change<Class>& second : changes) {
+            Class before;
+            first(before);
+            Class after;
+            second(after);
+            const std::string from = held(before);
+            const std::string to = held(after);
+            const std::string expected = from == to ? from : left(from, to);
+            fail_each_allocation(
+                promise::either, [&] { return before; }, second,
+                [&](Class& object, std::size_t) {
+                    const Class copy = object;
+                    EXPECT_EQ(held(copy), expected) << "from " << from << " to " << to;
+                    if (from != to && from == expected) {
+                        EXPECT_EQ(texts(copy), texts(before)) << "from " << from << " to " << to;
+                    }
+                    second(object);
+                    EXPECT_EQ(texts(object), texts(after)) << "it can still be set";
+                });
+        }
+    }
+}
+
+// Catches medicines that are lost to a list that could not be copied, and fuel data that leaves
+// them standing.
+TEST(choices, of_the_product_fail_by_their_kind) {
+    const auto held = [](const produto& item) -> std::string {
+        return item.get_combustiveis()   ? "fuel"
+               : item.get_medicamentos() ? "medicines"
+               : item.get_armas()        ? "firearms"
+                                         : "nothing";
+    };
+    fail_each_change<produto>(
+        {setting(&produto::set_armas, optional<std::vector<arma>>()),
+         setting(&produto::set_combustiveis, sample<optional<combustiveis>>(1)),
+         setting(&produto::set_medicamentos, sample<optional<std::vector<medicamento>>>(1)),
+         setting(&produto::set_armas, sample<optional<std::vector<arma>>>(1))},
+        held, [](const std::string& from, const std::string& to) {
+            return to == "fuel" ? "nothing" : from;
+        });
+}
+
+// Catches a tax that stays although another was to take its place.
+TEST(choices, of_the_tax_lose_the_old_one) {
+    const auto tax = [](const auto& value) {
+        return setting(&produto::set_tributacao, produto::tributacao(value));
+    };
+    fail_each_change<produto>(
+        {setting(&produto::set_tributacao, optional<produto::tributacao>()),
+         tax(produto::icms(sample<grupo_tributacao_icms_00>(1))),
+         tax(produto::icms(sample<grupo_tributacao_icms_900>(1))), tax(sample<issqn>(1))},
+        tax_of, [](const std::string& from, const std::string& to) {
+            return from == "absent"                                     ? from
+                   : from.starts_with("ICMS") && to.starts_with("ICMS") ? "ICMS -1"
+                                                                        : "nothing";
+        });
+}
+
+template <auto get, class Class> std::string index_in(const Class& object) {
+    return std::to_string(static_cast<std::ptrdiff_t>((object.*get)().index()));
+}
+
+// Catches a failure that leaves more or less of the old value than is promised.
+TEST(choices, of_other_groups_fail_by_their_kind) {
+    using pis = tributacao_pis_cofins;
+    fail_each_change<pis>(
+        {setting(&pis::set_grupo_tributacao_pis, sample<grupo_tributacao_pis_aliquota>(1)),
+         setting(&pis::set_grupo_tributacao_pis, sample<grupo_tributacao_pis_outros>(1))},
+        index_in<&pis::get_grupo_tributacao_pis, pis>, [](auto&, auto&) { return "-1"; });
+    using agropecuario = grupo_agropecuario;
+    fail_each_change<agropecuario>(
+        {setting(&agropecuario::set_informacoes, sample<std::vector<defensivos_agricolas>>(1)),
+         setting(&agropecuario::set_informacoes, sample<guia_de_transito>(1))},
+        index_in<&agropecuario::get_informacoes, agropecuario>,
+        [](const std::string& from, auto&) { return from == "0" ? "-1" : from; });
+    fail_each_change<medicamento>(
+        {setting(&medicamento::set_codigo_anvisa, sample<std::string>(1)),
+         setting(&medicamento::set_codigo_anvisa, sample<medicamento_isento>(1))},
+        index_in<&medicamento::get_codigo_anvisa, medicamento>,
+        [](const std::string& from, auto&) { return from; });
+}
+
+} // namespace kivo::tests
