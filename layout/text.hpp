@@ -9,6 +9,7 @@
 #include <concepts>
 #include <cstdint>
 #include <limits>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -125,6 +126,16 @@ template <class Value> std::string expected_text(const form& how) {
                : how.before[0] != '\0'  ? std::string(how.before) + " and a text behind it"
                                         : "a text that is not empty";
     }
+}
+
+/// The value of a text, for data that stand in a program. Throws std::invalid_argument for a text
+/// that the value cannot hold.
+template <class Value> Value value_from(const std::string& text) {
+    Value value{};
+    if (!read_text(value, text)) {
+        throw std::invalid_argument("\"" + text + "\" is not " + expected_text<Value>(form{}));
+    }
+    return value;
 }
 
 } // namespace kivo::erp::v12::layout

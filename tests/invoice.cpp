@@ -91,6 +91,20 @@ TEST(invoice, a_number_that_is_too_large_is_refused) {
     }
 }
 
+// Catches a value from a program's text that is not the text's.
+TEST(invoice, a_text_that_is_no_value_is_refused_with_a_reason) {
+    using erp::v12::layout::value_from;
+    EXPECT_EQ(value_from<erp::v12::fiscal::decimal>("24.90"),
+              erp::v12::fiscal::decimal::make(2490, 2));
+    try {
+        value_from<erp::v12::cnpj>("11222333000182");
+        ADD_FAILURE() << "a wrong check digit was read";
+    } catch (const std::invalid_argument& failure) {
+        EXPECT_STREQ(failure.what(), "\"11222333000182\" is not a CNPJ, 14 characters with their "
+                                     "check digits");
+    }
+}
+
 // Catches an element that nobody asks for and nobody tells of.
 TEST(invoice, what_has_no_field_is_reported_by_path) {
     const auto invoice = read_xml(
