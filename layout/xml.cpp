@@ -82,7 +82,8 @@ outside_texts read_outside_texts(node& invoice) {
     outside_texts result;
     for (const outside_text& element : outside_elements) {
         node* const group = group_of(invoice, element);
-        if (node* const found = group != nullptr ? group->next_unread(element.name) : nullptr) {
+        node* const found = group != nullptr ? group->next_unread(element.name) : nullptr;
+        if (found != nullptr && !found->text.empty()) {
             result.*element.text = found->text;
             found->reading = node::state::read;
             group->reading = node::state::entered;
