@@ -10,7 +10,6 @@
 #include <concepts>
 #include <fstream>
 #include <set>
-#include <source_location>
 #include <sstream>
 #include <stdexcept>
 #include <tuple>
@@ -29,11 +28,11 @@ constexpr std::string_view argument_of(std::string_view function) {
 }
 
 template <auto argument> constexpr std::string_view member_name() {
-    return argument_of(std::source_location::current().function_name());
+    return argument_of(__PRETTY_FUNCTION__);
 }
 
 template <class argument> constexpr std::string_view type_name() {
-    return argument_of(std::source_location::current().function_name());
+    return argument_of(__PRETTY_FUNCTION__);
 }
 
 /// Where a walk stands.
