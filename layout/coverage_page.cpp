@@ -273,8 +273,9 @@ Some groups tell more than their fields:
   the one that is missing, and is not written.
 - `encerrante_bomba_combustiveis` also holds `pBio`, which stands beside `encerrante`: with `pBio`
   alone, `encerrante` is not written.
-- `tributacao_ipi` is written as `IPITrib` or `IPINT`, as its situation code tells. `vUnid` has a field,
-  and `qUnid`, which the layout wants beside it, has none.
+- `tributacao_ipi` is written as `IPITrib` or `IPINT`, as its situation code tells. `vUnid` has a
+  field, and `qUnid`, which the layout demands beside it, has none: the schema refuses an IPI per
+  unit as it is written.
 - `grupo_fcp` has a base; in `ICMS00`, where the layout has no `vBCFCP`, it is not written.
 - A medicine without registration is written as two elements: `cProdANVISA` with the text ISENTO,
   and `xMotivoIsencao`.
