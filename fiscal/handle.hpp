@@ -80,7 +80,8 @@ public:
         return *this;
     }
     lazy_handle& operator=(lazy_handle&& other) noexcept {
-        lazy_handle(std::move(other)).swap(*this);
+        lazy_handle taken(std::move(other));
+        swap(taken);
         return *this;
     }
 
