@@ -28,6 +28,7 @@ std::string list(const std::vector<json>& elements) {
 
 std::vector<json> remarks(const std::vector<layout::reading::remark>& told) {
     std::vector<json> result;
+    result.reserve(told.size());
     for (const auto& remark : told) {
         result.push_back(
             {{"path", remark.path}, {"text", remark.text}, {"instead", remark.instead}});

@@ -99,7 +99,7 @@ void check(const arguments& given) {
     if (given.paths.empty()) {
         throw CLI::ValidationError("a file is needed");
     }
-    if (given.json + given.xml + given.diff > 1) {
+    if ((given.json && (given.xml || given.diff)) || (given.xml && given.diff)) {
         throw CLI::ValidationError("only one of --json, --xml and --diff");
     }
     if (given.diff && given.paths.size() != 2) {

@@ -163,8 +163,9 @@ int show_overview(const page& out, const std::vector<std::string>& paths) {
         refused += found.refused ? 1 : 0;
     }
     const std::vector<std::string> lines = shown.lines(out.width);
-    out.heading(lines.front());
-    std::for_each(lines.begin() + 1, lines.end(), [&](const std::string& line) { out.line(line); });
+    for (std::size_t index = 0; lines.size() > 1 && index < lines.size(); ++index) {
+        index == 0 ? out.heading(lines[index]) : page::line(lines[index]);
+    }
     out.left_out(shown.left_out(out.width));
     const auto if_any = [](std::size_t count, std::string_view what) {
         return count == 0 ? "" : fmt::format("{} {}", count, what);

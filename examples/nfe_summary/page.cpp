@@ -37,7 +37,7 @@ page page::as_wide_as(std::size_t columns) const {
     return {.width = std::max(columns, narrowest), .bold = bold};
 }
 
-void page::line(std::string_view text) const { fmt::print("{}\n", text); }
+void page::line(std::string_view text) { fmt::print("{}\n", text); }
 
 void page::heading(std::string_view text) const {
     fmt::print(bold ? fmt::emphasis::bold : fmt::text_style(), "{}",

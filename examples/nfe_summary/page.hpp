@@ -41,7 +41,7 @@ struct page {
     void amounts(const std::vector<labelled_amount>& shown) const;
 
     /// A line as it is.
-    void line(std::string_view text) const;
+    static void line(std::string_view text);
 
     /// A text behind some spaces.
     void note(std::string_view text) const;

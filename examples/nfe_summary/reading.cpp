@@ -9,12 +9,6 @@ namespace nfe_summary {
 
 namespace {
 
-/// Whether a path leads to what is around an invoice, such as its signature.
-bool is_around(std::string_view path) {
-    return path == "@versao" || path == "infNFeSupl" || path == "Signature" || path == "protNFe" ||
-           path.starts_with("NFe/");
-}
-
 /// `det[12]/prod/x` as `det/prod/x`.
 std::string without_numbers(std::string_view path) {
     std::string result;
@@ -27,15 +21,19 @@ std::string without_numbers(std::string_view path) {
     return result;
 }
 
+/// Whether a path without numbers leads to what is around an invoice, such as its signature.
+bool is_around(std::string_view path) {
+    return path == "@versao" || path == "infNFeSupl" || path == "Signature" || path == "protNFe" ||
+           path.starts_with("NFe/");
+}
+
 std::vector<std::string> unread(const layout::reading& result, bool around) {
     std::map<std::string, std::size_t> counts;
     std::vector<std::string> paths;
     for (const std::string& full_path : result.unread) {
-        if (is_around(full_path) == around) {
-            std::string path = without_numbers(full_path);
-            if (++counts[path] == 1) {
-                paths.push_back(std::move(path));
-            }
+        std::string path = without_numbers(full_path);
+        if (is_around(path) == around && ++counts[path] == 1) {
+            paths.push_back(std::move(path));
         }
     }
     for (std::string& path : paths) {
@@ -78,15 +76,16 @@ std::string problems(const layout::reading& result) {
     };
     std::size_t without_field = 0;
     for (const std::string& path : result.unread) {
-        without_field += is_around(path) ? 0 : 1;
+        without_field += is_around(without_numbers(path)) ? 0 : 1;
     }
     return joined({counted(result.refused.size(), "refused"),
                    counted(result.changed.size(), "changed"), counted(without_field, "left out")});
 }
 
 void show_reading(const page& out, const layout::reading& result) {
-    out.field("File", fmt::format("{} of the file's {} elements have found their place",
-                                  result.texts_read, result.texts));
+    out.field("File",
+              fmt::format("{} of the file's {} elements have found their place; --json lists them",
+                          result.texts_read, result.texts));
     out.field("Without a field", joined(shortened_list(unread(result, false))));
     out.field("Outside", joined(shortened_list(unread(result, true))));
     std::vector<std::string> changes;

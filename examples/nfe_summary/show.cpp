@@ -220,15 +220,15 @@ void show_texts(const page& out, const nota_fiscal& invoice) {
 void show(const page& out, const layout::invoice_document& document) {
     const nota_fiscal& invoice = document.invoice;
     show_head(out, invoice);
-    out.line("");
+    page::line("");
     show_items(out, invoice.get_produtos());
-    out.line("");
+    page::line("");
     show_totals(out, invoice.get_total_nfe());
-    out.line("");
+    page::line("");
     show_payment(out, invoice);
     show_transport(out, invoice.get_informacoes_transporte());
     show_texts(out, invoice);
-    out.line("");
+    page::line("");
     show_reading(out, document.result);
 }
 

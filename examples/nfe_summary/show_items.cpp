@@ -156,7 +156,7 @@ void show_items(const page& out, const std::vector<produto>& items) {
     const row second_lines = one_line ? row() : tails.lines(out.width - indent);
     for (std::size_t index = 0; index < first_lines.size(); ++index) {
         const auto show_line = [&](const std::string& text) {
-            index == 0 ? out.heading(text) : out.line(text);
+            index == 0 ? out.heading(text) : page::line(text);
         };
         show_line(first_lines[index]);
         if (!one_line) {

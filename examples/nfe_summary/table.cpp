@@ -9,7 +9,7 @@ namespace nfe_summary {
 namespace {
 
 constexpr std::size_t gap = 2;
-constexpr std::size_t longest = 120; // about what the layout allows a name
+constexpr std::size_t longest = 400; // far more than the layout allows, far less than memory
 
 std::size_t total(const std::vector<std::size_t>& widths) {
     std::size_t sum = 0;
