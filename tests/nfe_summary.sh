@@ -57,8 +57,10 @@ run 0 '271.828.182-05' "$data/nfce.xml"
 for width in 40 66 80 120; do
     run 0 'Invoice total' --width "$width" "$data/nfe.xml"
     ! grep -E "^.{$((width + 1))}" "$folder/out" || fault "wider than $width"
+    tr -s ' \n' ' ' < "$folder/out" | grep -qF 'Base de cálculo do ICMS reduzida; garantia de 12 meses' ||
+        fault "text is lost at $width"
 done
-run 0 'Sabão' --width 120 "$data/nfe.xml"
+run 0 'Sabão em barra desengraxante para oficina, 1 kg, sem perfume  ' --width 160 "$data/nfe.xml"
 before_unit=$(sed -n 's/Unit .*//p' "$folder/out")
 [ "$(grep -cE "^.{${#before_unit}}(UN|CX|KG) " "$folder/out")" = 4 ] || fault 'units not aligned'
 
@@ -104,9 +106,11 @@ sed 's|<vNF>[^<]*|<vNF>999999999999999.99|' "$data/nfe.xml" > "$folder/many/belo
 touch "$folder/many/readme.txt"
 run 0 'Invoices: 2, total 1.000.000.000.000.097,93' "$folder/many"
 shows '41260999206547000105650020000903181577203199   90318  18/09/2026  Padaria' '4 left out'
+run 1 'total 1.000.000.000.003.025,83, 1 with refused texts' "$folder/many" "$folder/refused.xml"
+shows '1 refused'
 cp "$folder/other.xml" "$folder/many"
-run 1 'other.xml: not an NF-e or NFC-e' "$folder/many" "$folder/refused.xml"
-shows 'Invoices: 3, total 1.000.000.000.003.025,83, 1 with refused texts, 1 not read' '1 refused'
+run 1 'other.xml: not an NF-e or NFC-e' "$folder/many"
+shows 'Invoices: 2, total 1.000.000.000.000.097,93, 1 not read'
 
 # A hostile file does not steer the terminal.
 sed 's|<xNome>|&\&#27;[2J\&#x9b;31m\&#x202e;\&#13;\&#127;|; s|<qVol>|&\&#x9b;|' \
