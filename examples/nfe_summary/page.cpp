@@ -77,9 +77,9 @@ void page::amounts(const std::vector<labelled_amount>& shown) const {
         numbers = std::max(numbers, columns(amount.amount));
     }
     const std::size_t cell = labels + 2 + numbers;
-    const std::size_t most = most_beside * (cell + gap);
+    const std::size_t most = most_beside * (cell + gap) - gap;
     const std::size_t beside =
-        std::max<std::size_t>((std::min(width + gap, most)) / (cell + gap), 1);
+        std::max<std::size_t>((std::min(width, most) + gap) / (cell + gap), 1);
     const std::size_t rows = (shown.size() + beside - 1) / beside;
     for (std::size_t row = 0; row < rows; ++row) {
         std::string text;
