@@ -285,9 +285,9 @@ void add_number(std::vector<std::string>& result, const place& field,
                          several(widths.back(), "digit"));
     }
     if (how.base == 16) {
-        result.push_back("the code read as a hexadecimal number");
+        result.emplace_back("the code read as a hexadecimal number");
     } else if (!digits_only) {
-        result.push_back("a number, the layout takes a text");
+        result.emplace_back("a number, the layout takes a text");
     }
     if (how.wide_width != 0) {
         result.push_back("written with " + several(how.width, "digit") + ", or with " +
@@ -297,7 +297,7 @@ void add_number(std::vector<std::string>& result, const place& field,
     } else if (how.width > 1) {
         result.push_back("written with " + several(how.width, "digit"));
     } else if (how.width == 0 && element.content.starts_with("digits") && widths.back() > 1) {
-        result.push_back("zeros in front are not kept");
+        result.emplace_back("zeros in front are not kept");
     }
 }
 
@@ -336,7 +336,7 @@ std::vector<std::string> differences(const place& field, const layout_element& e
         return result;
     }
     if (field.times == place::count::list && occurs.back() == 1) {
-        result.push_back("a list, the layout takes one");
+        result.emplace_back("a list, the layout takes one");
     } else if (field.times != place::count::list && occurs.back() > 1) {
         result.push_back("one, the layout takes " + std::to_string(occurs.back()));
     }
@@ -346,14 +346,14 @@ std::vector<std::string> differences(const place& field, const layout_element& e
     if (field.fixed_point && element.content.starts_with("decimal")) {
         const std::vector<unsigned> places = numbers_in(element.content);
         if (places.front() + places.back() > 17) {
-            result.push_back("at most 17 digits in all");
+            result.emplace_back("at most 17 digits in all");
         }
     }
     if (field.how.before[0] != '\0') {
         result.push_back(std::string("held without the `") + field.how.before + "` in front");
     }
     if (field.how.empty) {
-        result.push_back("written even when it is empty");
+        result.emplace_back("written even when it is empty");
     }
     return result;
 }
