@@ -18,7 +18,7 @@ struct outside_texts {
     std::string tp_imp;          ///< printed form (tpImp); empty: 1, or 4 for model 65
     std::string c_dv;            ///< check digit of the key (cDV); empty: the key's
     std::string proc_emi = "0";  ///< issuing process (procEmi); 0: own program
-    std::string ver_proc = "kivo-erp-fiscal 12.0"; ///< version of the program (verProc)
+    std::string ver_proc = "kivo-erp-fiscal 12"; ///< version of the program (verProc)
 };
 
 /// An invoice that was read, and what became of each element.

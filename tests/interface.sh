@@ -11,7 +11,7 @@ fail() {
     failed=1
 }
 
-names=$(nm --dynamic --defined-only --demangle "$library" | cut -d' ' -f3- | LC_ALL=C sort -u)
+names=$(nm --dynamic --defined-only --without-symbol-versions --demangle "$library" | cut -d' ' -f3- | LC_ALL=C sort -u)
 diff --unified=0 --label recorded --label library "$recorded" - <<< "$names" ||
     fail "exported names differ from $recorded"
 

@@ -1,0 +1,58 @@
+# What is installed, by component: runtime is the library, development what it takes to compile
+# against it, layout the layout map. Nothing of it knows where it stands: a tree may be moved.
+
+include(GNUInstallDirs)
+include(CMakePackageConfigHelpers)
+
+set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/kivo-erp-fiscal")
+set(pkgconfig_dir "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+set(include_dir "${CMAKE_INSTALL_INCLUDEDIR}/kivo-erp-${PROJECT_VERSION_MAJOR}")
+set(generated_dir "${CMAKE_CURRENT_BINARY_DIR}/install")
+file(RELATIVE_PATH include_from_pkgconfig
+    "${CMAKE_INSTALL_PREFIX}/${pkgconfig_dir}" "${CMAKE_INSTALL_PREFIX}/${include_dir}")
+
+install(TARGETS kivo-erp-fiscal
+    EXPORT kivo-erp-fiscal
+    LIBRARY COMPONENT runtime NAMELINK_COMPONENT development
+    FILE_SET HEADERS DESTINATION "${include_dir}" COMPONENT development)
+# GDB loads the printers with the library: it repeats the library's path in a folder of its own
+install(FILES fiscal/gdb/printers.py
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/gdb/auto-load\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}"
+    RENAME "$<TARGET_FILE_NAME:kivo-erp-fiscal>-gdb.py"
+    COMPONENT runtime)
+# a user compiles over the base headers that the library was compiled over
+set(base_include_dir "${PROJECT_SOURCE_DIR}")
+if(KIVO_BASE_INCLUDE_DIR)
+    set(base_include_dir "${KIVO_BASE_INCLUDE_DIR}")
+endif()
+install(DIRECTORY "${base_include_dir}/base"
+    DESTINATION "${include_dir}" COMPONENT development FILES_MATCHING PATTERN *.hpp)
+install(EXPORT kivo-erp-fiscal
+    NAMESPACE kivo:: FILE kivo-erp-fiscal-targets.cmake
+    DESTINATION "${package_dir}" COMPONENT development)
+
+configure_package_config_file(cmake/kivo-erp-fiscal-config.cmake.in
+    "${generated_dir}/kivo-erp-fiscal-config.cmake" INSTALL_DESTINATION "${package_dir}")
+write_basic_package_version_file("${generated_dir}/kivo-erp-fiscal-config-version.cmake"
+    COMPATIBILITY SameMajorVersion)
+install(FILES
+    "${generated_dir}/kivo-erp-fiscal-config.cmake"
+    "${generated_dir}/kivo-erp-fiscal-config-version.cmake"
+    DESTINATION "${package_dir}" COMPONENT development)
+configure_file(cmake/kivo-erp-fiscal.pc.in "${generated_dir}/kivo-erp-fiscal.pc" @ONLY)
+install(FILES "${generated_dir}/kivo-erp-fiscal.pc"
+    DESTINATION "${pkgconfig_dir}" COMPONENT development)
+
+if(KIVO_BUILD_LAYOUT)
+    install(TARGETS kivo-erp-fiscal-layout
+        EXPORT kivo-erp-fiscal-layout
+        ARCHIVE COMPONENT layout
+        FILE_SET HEADERS DESTINATION "${include_dir}" COMPONENT layout)
+    install(EXPORT kivo-erp-fiscal-layout
+        NAMESPACE kivo:: FILE kivo-erp-fiscal-layout-targets.cmake
+        DESTINATION "${package_dir}" COMPONENT layout)
+    configure_file(cmake/kivo-erp-fiscal-layout.pc.in
+        "${generated_dir}/kivo-erp-fiscal-layout.pc" @ONLY)
+    install(FILES "${generated_dir}/kivo-erp-fiscal-layout.pc"
+        DESTINATION "${pkgconfig_dir}" COMPONENT layout)
+endif()
