@@ -9,7 +9,7 @@ namespace kivo::core::v7 {
 
 /// How a conversion between a value and its text ended.
 enum conversion_result : int {
-    conversion_success = 0,
+    conversion_success = 0,          ///< the whole value was converted
     conversion_buffer_too_small = 1, ///< nothing was written; the length now tells the size needed
     conversion_invalid = 3,          ///< nothing was written
 };

@@ -20,6 +20,7 @@ public:
         return date(year << 9 | month << 5 | day);
     }
 
+    /// The parts of the date; 0 in no date.
     constexpr unsigned year() const noexcept { return static_cast<unsigned>(word_ >> 9); }
     constexpr unsigned month() const noexcept { return static_cast<unsigned>(word_ >> 5 & 15); }
     constexpr unsigned day() const noexcept { return static_cast<unsigned>(word_ & 31); }

@@ -16,9 +16,9 @@ public:
     /// An offset from UTC. West is negative: `{true, 3, 0}` is -03:00.
     /// The sign belongs to the text: -00:00 is kept apart from +00:00.
     struct utc_offset {
-        bool west = false;
-        unsigned hours = 0;
-        unsigned minutes = 0;
+        bool west = false;    ///< whether the sign is a minus
+        unsigned hours = 0;   ///< 0 to 14
+        unsigned minutes = 0; ///< 0 to 59
 
         friend constexpr bool operator==(const utc_offset&, const utc_offset&) noexcept = default;
     };
@@ -47,6 +47,8 @@ public:
     constexpr date day() const noexcept {
         return date::make(bits(37, 14), bits(33, 4), bits(28, 5)).value_or(date());
     }
+
+    /// The parts of the local time, and its offset; 0 when there is no time.
     constexpr unsigned hour() const noexcept { return bits(23, 5); }
     constexpr unsigned minute() const noexcept { return bits(17, 6); }
     constexpr unsigned second() const noexcept { return bits(11, 6); }

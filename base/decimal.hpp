@@ -9,7 +9,10 @@ namespace kivo::core::v7 {
 /// (or leading zeros) behind the point. It keeps its scale: 1.50 stays 1.50, and equals 1.5.
 class decimal {
 public:
+    /// 17 digits.
     static constexpr std::int64_t max_coefficient = 99'999'999'999'999'999;
+
+    /// Decimal places.
     static constexpr unsigned max_scale = 15;
 
     /// Zero, without decimal places.
@@ -24,6 +27,7 @@ public:
         return decimal(coefficient * 16 + static_cast<std::int64_t>(scale));
     }
 
+    /// What `make` was given.
     constexpr std::int64_t coefficient() const noexcept { return word_ >> 4; }
     constexpr unsigned scale() const noexcept { return static_cast<unsigned>(word_ & 15); }
 

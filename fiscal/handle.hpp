@@ -41,6 +41,7 @@ public:
         return *this;
     }
 
+    /// The record.
     const Record* operator->() const noexcept { return record_.get(); }
     Record* operator->() noexcept { return record_.get(); }
 
@@ -87,10 +88,12 @@ public:
 
     void swap(lazy_handle& other) noexcept { record_.swap(other.record_); }
 
+    /// A copy of a field, or of its default.
     template <class Field> Field get(Field Record::*field) const {
         return record_ ? (*record_).*field : Field();
     }
 
+    /// Stores a field; the first builds the record.
     template <class Field>
     void set(Field Record::*field, const std::type_identity_t<Field>& value) {
         if (record_) {

@@ -16,9 +16,11 @@ namespace kivo::erp::v12::layout {
 /// The entries of a class. A class without a specialisation is no group of the layout.
 template <class Class> inline constexpr std::tuple<> fields;
 
+/// Whether a field may be absent.
 template <class Value> inline constexpr bool is_optional = false;
 template <class Value> inline constexpr bool is_optional<core::v7::optional<Value>> = true;
 
+/// Whether a field holds any number of values.
 template <class Value> inline constexpr bool is_list = false;
 template <class Value> inline constexpr bool is_list<std::vector<Value>> = true;
 
@@ -72,10 +74,10 @@ inline constexpr form or_empty{.empty = true};
 
 /// A field that is an element: `field{"vFCP", &grupo_fcp::get_valor, &grupo_fcp::set_valor}`.
 template <class Get, class Set> struct field {
-    const char* name;
-    Get get;
-    Set set;
-    form how = {};
+    const char* name; ///< of the element
+    Get get;          ///< member function of the class that returns the field
+    Set set;          ///< member function of the class that stores the field
+    form how = {};    ///< how the element holds it
 };
 template <class Get, class Set> field(const char*, Get, Set) -> field<Get, Set>;
 template <class Get, class Set> field(const char*, Get, Set, form) -> field<Get, Set>;
@@ -83,78 +85,83 @@ template <class Get, class Set> field(const char*, Get, Set, form) -> field<Get,
 /// A field that is a group without an element of its own: its elements stand in the holder's, but
 /// for the one that the layout does not know there.
 template <class Get, class Set> struct embedded {
-    Get get;
-    Set set;
-    const char* without = "";
+    Get get;                  ///< as that of a field
+    Set set;                  ///< as that of a field
+    const char* without = ""; ///< name of the element that is left out
 };
 template <class Get, class Set> embedded(Get, Set) -> embedded<Get, Set>;
 template <class Get, class Set> embedded(Get, Set, const char*) -> embedded<Get, Set>;
 
 /// Entries of the same class that stand one element further down.
 template <class... Entries> struct element {
+    /// The element's name, and what stands in it.
     constexpr element(const char* element_name, Entries... element_entries)
         : name(element_name), entries(element_entries...) {}
 
-    const char* name;
-    std::tuple<Entries...> entries;
+    const char* name;               ///< of the element
+    std::tuple<Entries...> entries; ///< what stands in it
 };
 
 /// A field that is a variant: for each alternative, in index order, where it stands: the name of
 /// its element, `here`, `nowhere`, or `inside{...}`.
 template <class Get, class Set, class... Places> struct one_of {
+    /// The accessors of the field, and a place for each alternative.
     constexpr one_of(Get getter, Set setter, Places... alternatives)
         : get(getter), set(setter), places(alternatives...) {}
 
-    Get get;
-    Set set;
-    std::tuple<Places...> places;
+    Get get;                      ///< as that of a field
+    Set set;                      ///< as that of a field
+    std::tuple<Places...> places; ///< one for each alternative
 };
 
 /// Place of an alternative whose elements stand in the holder's own element.
 struct here_place {};
-inline constexpr here_place here;
+inline constexpr here_place here; ///< for `one_of`
 
 /// Place of an alternative that is not written here: it is empty, or stands in a later entry.
 struct nowhere_place {};
-inline constexpr nowhere_place nowhere;
+inline constexpr nowhere_place nowhere; ///< for `one_of`
 
 /// Place of an alternative that is a variant itself: its own alternatives, one element further
 /// down.
 template <class... Places> struct inside {
+    /// The element's name, and a place for each alternative in it.
     constexpr inside(const char* element_name, Places... alternatives)
         : name(element_name), places(alternatives...) {}
 
-    const char* name;
-    std::tuple<Places...> places;
+    const char* name;             ///< of the element
+    std::tuple<Places...> places; ///< one for each alternative
 };
 
 /// An element with a text of its own, which tells a group from another.
 struct constant {
-    const char* name;
-    const char* text;
+    const char* name; ///< of the element
+    const char* text; ///< in the element
 };
 
 /// An element that the layout demands and no object holds. It is written empty, in its place, for
 /// the one who knows its text.
 struct outside {
-    const char* name;
+    const char* name; ///< of the element
 };
 
 /// An entry that is read wherever it stands, but written only where the object is of its kind.
 template <class Condition, class Entry> struct only_if {
-    Condition condition; // bool (const Class&)
-    Entry entry;
+    Condition condition; ///< `bool (const Class&)`: whether the object is of the kind
+    Entry entry;         ///< what is written then
 };
 template <class Condition, class Entry> only_if(Condition, Entry) -> only_if<Condition, Entry>;
 
 /// Another place of a field that stands in an earlier entry.
-template <class Entry> struct again { Entry entry; };
+template <class Entry> struct again {
+    Entry entry; ///< as the earlier one, with its other place
+};
 template <class Entry> again(Entry) -> again<Entry>;
 
 /// A field for which the layout has no element.
 template <class Get, class Set> struct no_element {
-    Get get;
-    Set set;
+    Get get; ///< as that of a field
+    Set set; ///< as that of a field
 };
 template <class Get, class Set> no_element(Get, Set) -> no_element<Get, Set>;
 

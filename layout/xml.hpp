@@ -14,7 +14,7 @@ namespace kivo::erp::v12::layout {
 /// Texts of elements that the layout demands and no object holds. Reading fills them, so that a
 /// document that is read and written keeps them; an empty one is left out.
 struct outside_texts {
-    std::string versao = "4.00"; ///< release of the layout (@versao)
+    std::string versao = "4.00"; ///< release of the layout (attribute versao)
     std::string tp_imp;          ///< printed form (tpImp); empty: 1, or 4 for model 65
     std::string c_dv;            ///< check digit of the key (cDV); empty: the key's
     std::string proc_emi = "0";  ///< issuing process (procEmi); 0: own program
@@ -23,8 +23,8 @@ struct outside_texts {
 
 /// An invoice that was read, and what became of each element.
 struct invoice_document {
-    fiscal::nota_fiscal invoice;
-    outside_texts outside;
+    fiscal::nota_fiscal invoice; ///< what has a field
+    outside_texts outside;       ///< what has none, but is demanded
     /// Paths begin below infNFe; those of elements outside it begin at the document's root.
     reading result;
 };
