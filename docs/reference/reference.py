@@ -139,6 +139,9 @@ def check(subsystems, rows):
             names = path.replace("@", "").split("/")[-2 if "choice" in row.holds else -1 :]
             if not re.search(rf"\b({'|'.join(names)})\b", comments[row.owner, row.getter]):
                 faults.append(f"{row.owner}::{row.getter} does not name {element_of(path)}")
+    for header in [*ROOT.glob("fiscal/*.hpp"), *ROOT.glob("base/*.hpp")]:  # Doxygen lets these pass
+        for name in re.findall(r"^ +(\w+) = \w+,?$", header.read_text(), re.M):
+            faults.append(f"{header.name} does not tell what {name} is")
     if (ROOT / "docs/classes.md").read_text() != classes_page(subsystems):
         faults.append("docs/classes.md is not what the comments say: ./dev docs makes it anew")
     return faults
