@@ -108,7 +108,7 @@ def element_of(path):
 
 def classes_page(subsystems):
     lines = [
-        "# Classes",
+        "# Classes by subsystem",
         "",
         "Each name is a header and a source in `fiscal/`; the class comment tells its kind in full.",
         "`fiscal/nota_fiscal.hpp` includes them all. `./dev docs` makes this page from the comments.",
@@ -240,6 +240,8 @@ def filtered_page(path):
         heading = re.match(r"##+ (.*)", line)
         if heading and not code:
             line += f" {{#{label_of(path.stem, heading[1])}}}"
+        if path.name == "classes.md":
+            line = re.sub(r"^\| `(\w+)`", lambda name: f"| {reference(name[1])}", line)
         line = re.sub(r"\]\((?:[\w./]*?(\w+)\.md)?#([^)]+)\)",
                       lambda link: f"](#{label_of(link[1] or path.stem, link[2])})", line)
         yield line
