@@ -8,7 +8,9 @@ build=$2
 shift 2
 compilers=("$@")
 
-for tool in cpack dpkg-deb dpkg-shlibdeps file gdb ninja pkg-config "${compilers[@]}"; do
+tools=(cpack dpkg-deb dpkg-shlibdeps file gdb ninja pkg-config "${compilers[@]}")
+[[ ${compilers[*]} != *clang* ]] || tools+=(clang-tidy-14)
+for tool in "${tools[@]}"; do
     command -v "$tool" > /dev/null || {
         echo "package: skipped, there is no $tool; ./dev package installs it"
         exit 77
