@@ -83,17 +83,20 @@ void measure(const std::string& operation, const std::string& holder, std::size_
                                  std::move(run));
 }
 
-/// The requests of an operation with the bytes they hold, which is its floor, and alone.
-void measure_requests(const std::string& operation, std::size_t size,
-                      const std::function<trace()>& record_operation) {
-    measure(operation, "floor", size, [record_operation](benchmark::State& state) {
-        replay requests(record_operation());
+/// The requests of an operation with the bytes they hold, which is its floor, and alone. Only what
+/// gives back all that it takes can be repeated without the operation.
+void measure_requests(const std::string& operation, std::size_t size, const trace& recorded) {
+    if (recorded.still_taken != 0) {
+        return;
+    }
+    measure(operation, "floor", size, [recorded](benchmark::State& state) {
+        replay requests(recorded);
         for (auto _ : state) {
             requests.take_and_copy();
         }
     });
-    measure(operation, "requests", size, [record_operation](benchmark::State& state) {
-        replay requests(record_operation());
+    measure(operation, "requests", size, [recorded](benchmark::State& state) {
+        replay requests(recorded);
         for (auto _ : state) {
             requests.take();
         }
@@ -182,9 +185,7 @@ template <class Holder> void measure_holder(const std::string& name) {
                 }
             });
             if constexpr (std::same_as<Holder, nota_fiscal>) {
-                measure_requests(operation, items, [items, run = run] {
-                    return record_operation<Holder>(run, items);
-                });
+                measure_requests(operation, items, record_operation<Holder>(run, items));
             }
         }
         benchmark::RegisterBenchmark(
