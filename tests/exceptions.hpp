@@ -2,6 +2,7 @@
 
 #include "support/failures.hpp"
 #include "support/kinds.hpp"
+#include "support/record_order.hpp"
 #include "support/samples.hpp"
 
 #include <gtest/gtest.h>
@@ -77,7 +78,7 @@ TYPED_TEST_P(every_failure, of_construction_leaves_nothing_behind) {
 }
 
 // Catches a lazy assignment that touches its target before the copy stands, and an eager one that
-// leaves a field neither old nor new.
+// leaves a field neither old nor new, or walks the record in another order.
 TYPED_TEST_P(every_failure, of_assignment_leaves_a_whole_target) {
     const TypeParam source = sample<TypeParam>(1);
     const auto fresh = texts(source);
@@ -85,6 +86,7 @@ TYPED_TEST_P(every_failure, of_assignment_leaves_a_whole_target) {
         if constexpr (lazy<TypeParam>) {
             EXPECT_EQ(texts(target), texts(before));
         } else {
+            expect_new_then_old<TypeParam>(texts(target), texts(before), fresh);
             const auto old_texts = single_texts(before);
             const auto new_texts = single_texts(source);
             const auto found = single_texts(target);
@@ -102,6 +104,10 @@ TYPED_TEST_P(every_failure, of_assignment_leaves_a_whole_target) {
             of_copying<TypeParam>(), [&] { return old; },
             [&](TypeParam& target) { target = source; },
             [&](const TypeParam& target, std::size_t) { check(target, old); });
+        fail_each_allocation(
+            promise::propagates, [&] { return std::pair<TypeParam, TypeParam>(old, source); },
+            [](auto& objects) { objects.first = std::move(objects.second); },
+            [&](const auto& objects, std::size_t) { check(objects.first, old); });
     }
     EXPECT_EQ(texts(source), fresh) << "the source never changes";
 }

@@ -2,15 +2,13 @@
 
 #include "support/allocations.hpp"
 #include "support/kinds.hpp"
+#include "support/promises.hpp"
 #include "support/samples.hpp"
-
-#include <fiscal/produto.hpp>
 
 #include <gtest/gtest.h>
 
 #include <optional>
 #include <string>
-#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -40,24 +38,6 @@ template <class Class> std::vector<std::string> texts_after_a_move(const Class& 
     }
 }
 
-/// Three accessor pairs of produto stand for one field: setting one of them, even to an absent
-/// value, leaves nothing of the others.
-template <class Class>
-void expect_others_of_one_field_absent(const char* changed, std::vector<std::string>& expected) {
-    const auto is_product_choice = [](std::string_view element) {
-        return element == "med" || element == "arma" || element == "comb";
-    };
-    if constexpr (std::is_same_v<Class, erp::v12::fiscal::produto>) {
-        if (is_product_choice(changed)) {
-            for_each_field<Class>([&](const auto& field, std::size_t index) {
-                if (is_product_choice(field.element)) {
-                    expected[index] = "absent";
-                }
-            });
-        }
-    }
-}
-
 // Catches a setter or a getter that reaches a neighbour of its field.
 TYPED_TEST_P(every_class, setting_one_field_leaves_the_others_alone) {
     for_each_field<TypeParam>([](const auto& changed, std::size_t index) {
@@ -66,7 +46,9 @@ TYPED_TEST_P(every_class, setting_one_field_leaves_the_others_alone) {
         ASSERT_NE(text(value), (text(sample_for<TypeParam, accessor>(index, 1))));
         for (TypeParam object : {TypeParam(), sample<TypeParam>(1)}) {
             std::vector<std::string> expected = texts(object);
-            expect_others_of_one_field_absent<TypeParam>(changed.element, expected);
+            for (const std::size_t other : removed_with<TypeParam>(index)) {
+                expected[other] = "absent";
+            }
             expected[index] = text(value);
             (object.*changed.set)(value);
             EXPECT_EQ(texts(object), expected) << changed.element;
@@ -81,7 +63,9 @@ TYPED_TEST_P(every_class, setting_an_absent_value_removes_it) {
         if constexpr (erp::v12::layout::is_optional<value>) {
             for (TypeParam object : {TypeParam(), sample<TypeParam>(1)}) {
                 std::vector<std::string> expected = texts(object);
-                expect_others_of_one_field_absent<TypeParam>(changed.element, expected);
+                for (const std::size_t other : removed_with<TypeParam>(index)) {
+                    expected[other] = "absent";
+                }
                 expected[index] = "absent";
                 (object.*changed.set)(value());
                 EXPECT_EQ(texts(object), expected) << changed.element;
@@ -197,10 +181,32 @@ TYPED_TEST_P(every_class, records_are_released) {
     static_assert(sizeof(TypeParam) <= sizeof(void*));
 }
 
+// Catches a promise that is given or taken back: callers are compiled for it.
+TYPED_TEST_P(every_class, only_what_never_throws_is_noexcept) {
+    static_assert(std::is_nothrow_default_constructible_v<TypeParam> == lazy<TypeParam>);
+    static_assert(std::is_nothrow_move_constructible_v<TypeParam> == lazy<TypeParam>);
+    static_assert(std::is_nothrow_move_assignable_v<TypeParam> == lazy<TypeParam>);
+    static_assert(std::is_nothrow_copy_constructible_v<TypeParam> == copy_never_throws<TypeParam>);
+    static_assert(std::is_nothrow_copy_assignable_v<TypeParam> == copy_never_throws<TypeParam>);
+    static_assert(std::is_nothrow_destructible_v<TypeParam>);
+    if constexpr (lazy<TypeParam>) {
+        static_assert(noexcept(std::declval<TypeParam&>().swap(std::declval<TypeParam&>())));
+    }
+    for_each_field<TypeParam>([](const auto& field, std::size_t) {
+        using value = value_of<std::remove_cvref_t<decltype(field)>, TypeParam>;
+        EXPECT_EQ(noexcept((std::declval<const TypeParam&>().*field.get)()),
+                  getter_never_throws<TypeParam>(field.element))
+            << field.element;
+        EXPECT_EQ(noexcept((std::declval<TypeParam&>().*field.set)(std::declval<value&>())),
+                  setters_never_throw<TypeParam>)
+            << field.element;
+    });
+}
+
 REGISTER_TYPED_TEST_SUITE_P(every_class, setting_one_field_leaves_the_others_alone,
                             setting_an_absent_value_removes_it, copies_are_whole_and_share_nothing,
                             assignment_replaces_every_field, self_assignment_changes_nothing,
                             moves_leave_what_the_kind_promises, empty_handles_allocate_nothing,
-                            records_are_released);
+                            records_are_released, only_what_never_throws_is_noexcept);
 
 } // namespace kivo::tests

@@ -19,6 +19,8 @@ std::size_t left = 0;
 
 namespace kivo::tests {
 
+void (*on_allocation)(std::size_t size) = nullptr;
+
 std::size_t live_blocks() { return live; }
 std::size_t taken_blocks() { return taken; }
 
@@ -42,6 +44,9 @@ void* operator new(std::size_t size) {
             throw std::bad_alloc();
         }
         --left;
+    }
+    if (kivo::tests::on_allocation != nullptr) {
+        kivo::tests::on_allocation(size);
     }
     void* const block = std::malloc(size == 0 ? 1 : size);
     if (block == nullptr) {

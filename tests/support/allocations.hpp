@@ -12,6 +12,9 @@ std::size_t live_blocks();
 /// How many blocks were ever taken.
 std::size_t taken_blocks();
 
+/// Is told the size of every block that is taken; null: nobody is.
+extern void (*on_allocation)(std::size_t size);
+
 /// Lets so many allocations through and fails the next: that one alone, or all that follow too.
 class allocation_limit {
 public:

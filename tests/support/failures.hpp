@@ -2,6 +2,7 @@
 
 #include "allocations.hpp"
 #include "child.hpp"
+#include "tried.hpp"
 
 #include <gtest/gtest.h>
 
@@ -11,9 +12,6 @@
 
 /// Every allocation of an operation fails once.
 namespace kivo::tests {
-
-/// How many failures were tried by now.
-inline std::size_t failures_tried = 0;
 
 /// How a failure has to end.
 enum class promise {
@@ -70,7 +68,7 @@ void fail_each_allocation(promise promised, Prepare prepare, Operation operation
                 result = in_child([&] { return attempt(allowed, kind); });
                 EXPECT_FALSE(promised == promise::ends && result == outcome::propagated) << allowed;
             }
-            failures_tried += result == outcome::came_through ? 0 : 1;
+            tried("failing allocations") += result == outcome::came_through ? 0 : 1;
         }
     }
 }

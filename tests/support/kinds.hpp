@@ -5,6 +5,9 @@
 #include <base/optional.hpp>
 #include <base/variant.hpp>
 
+#include <fiscal/produto.hpp>
+
+#include <string_view>
 #include <type_traits>
 #include <vector>
 
@@ -39,5 +42,24 @@ template <class Value> struct may_end<std::vector<Value>> : may_end<Value> {};
 template <class... Alternatives> struct may_end<core::v7::variant<Alternatives...>> {
     static bool value() { return (may_end<Alternatives>::value() || ...); }
 };
+
+/// The fields that setting the field of this index removes: three accessor pairs of an item stand
+/// for one field.
+template <class Class> std::vector<std::size_t> removed_with(std::size_t changed) {
+    std::vector<std::size_t> result;
+    if constexpr (std::is_same_v<Class, erp::v12::fiscal::produto>) {
+        bool removes = false;
+        for_each_field<Class>([&](const auto& field, std::size_t index) {
+            const std::string_view element = field.element;
+            if (element == "med" || element == "arma" || element == "comb") {
+                index == changed ? void(removes = true) : result.push_back(index);
+            }
+        });
+        if (!removes) {
+            result.clear();
+        }
+    }
+    return result;
+}
 
 } // namespace kivo::tests

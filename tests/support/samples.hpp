@@ -71,7 +71,9 @@ template <class Value> Value sample(std::size_t number) {
         });
         return result;
     } else if constexpr (std::same_as<Value, std::string>) {
-        return "text " + std::to_string(number) + ", too long to stand in the string itself";
+        // the texts of one object differ in length too: their blocks tell them apart
+        return "text " + std::to_string(number) + ", too long to stand in the string itself" +
+               std::string(number % 64, '.');
     } else if constexpr (std::is_enum_v<Value>) {
         return static_cast<Value>(number % 251 + 1);
     } else if constexpr (std::unsigned_integral<Value>) {

@@ -8,9 +8,9 @@
 /// Base values of one word that count and log every operation, and throw when they are told to.
 namespace kivo::counting {
 
-enum class operation { construct, copy, move, copy_assign, move_assign, destroy };
+enum class operation { construct, copy, move, copy_assign, move_assign, destroy, allocate };
 
-/// One operation on the value of a number.
+/// One operation on the value of a number, or the allocation of a block of so many bytes.
 struct event {
     operation what;
     std::uint64_t number;
@@ -19,9 +19,14 @@ struct event {
 /// What a base value throws.
 struct failure {};
 
-inline std::vector<event>* log = nullptr; // null: nothing is logged
-inline std::size_t live = 0;              // values that are not destroyed yet
-inline std::size_t allowed = std::numeric_limits<std::size_t>::max(); // operations before a failure
+// of one kind in the library and in the tests
+#define KIVO_SHARED inline __attribute__((visibility("default")))
+
+KIVO_SHARED std::vector<event>* log = nullptr; // null: nothing is logged
+KIVO_SHARED std::size_t live = 0;              // values that are not destroyed yet
+KIVO_SHARED std::size_t allowed = std::numeric_limits<std::size_t>::max(); // before a failure
+
+#undef KIVO_SHARED
 
 inline void note(operation what, std::uint64_t number) {
     if (what != operation::destroy && allowed-- == 0) {
