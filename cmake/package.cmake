@@ -1,6 +1,11 @@
 # The Debian packages: one of the library, one of its debug symbols, and one for each component that
 # programs are compiled against.
 
+find_program(DPKG_DEB dpkg-deb)
+if(NOT DPKG_DEB)
+    return() # the tools called below are those of a Debian machine
+endif()
+
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_CONTACT "kivo-erp-fiscal maintainers <maintainers@kivo.example>"
     CACHE STRING "Who answers for the packages")
