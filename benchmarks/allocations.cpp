@@ -101,24 +101,27 @@ template <bool copying> void replay::run() {
     }
 }
 
-void replay::hold(std::size_t times) {
-    std::vector<void*> held;
-    held.reserve(times * blocks_.size());
+void replay::take_and_copy(std::size_t times) {
+    held_.reserve(times * blocks_.size());
     for (std::size_t time = 0; time < times; ++time) {
         for (const request& next : requests_) {
             if (next.size != 0) {
-                held.push_back(
+                held_.push_back(
                     std::memcpy(operator new(next.size), sources_[next.block], next.size));
             }
         }
     }
-    for (std::size_t time = 0; time < times; ++time) {
+}
+
+void replay::give_back() {
+    for (std::size_t first = 0; first < held_.size(); first += blocks_.size()) {
         for (const request& next : requests_) {
             if (next.size == 0) {
-                operator delete(held[time * blocks_.size() + next.block]);
+                operator delete(held_[first + next.block]);
             }
         }
     }
+    held_.clear();
 }
 
 void replay::take() { run<false>(); }

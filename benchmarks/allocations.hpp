@@ -35,8 +35,10 @@ public:
     void take();
     /// Takes, copies and gives back; the bytes come from blocks that were taken in the same order.
     void take_and_copy();
-    /// The same so many times over, and only then gives back.
-    void hold(std::size_t times);
+    /// Takes and copies so many times over.
+    void take_and_copy(std::size_t times);
+    /// Gives back what was taken so.
+    void give_back();
 
 private:
     template <bool copying> void run();
@@ -44,6 +46,7 @@ private:
     const std::vector<request> requests_;
     std::vector<void*> blocks_;
     std::vector<void*> sources_;
+    std::vector<void*> held_;
 };
 
 } // namespace kivo::benchmarks

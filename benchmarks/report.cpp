@@ -124,12 +124,16 @@ void print(const results& measured, const names& tables,
         print_row(row);
     }
 
-    print_head("Invoices of 10 items held at once: copied and destroyed, in ns per item",
-               {"invoices", "library", "to the floor"});
+    print_head("Invoices of 10 items held at once, in ns per item",
+               {"invoices", "copied", "to the floor", "destroyed", "to the floor"});
     for (const std::size_t held : tables.held) {
-        const numbers own = times("hold", "library", held);
-        print_row({std::to_string(held), median_text(own, 10 * static_cast<double>(held)),
-                   ratio_text(own, times("hold", "floor", held))});
+        std::vector<std::string> row{std::to_string(held)};
+        for (const char* const operation : {"hold", "give back"}) {
+            const numbers own = times(operation, "library", held);
+            row.push_back(median_text(own, 10 * static_cast<double>(held)));
+            row.push_back(ratio_text(own, times(operation, "floor", held)));
+        }
+        print_row(row);
     }
 
     print_head("Two threads on their own invoices of 100 items: their speed together, to one's",
