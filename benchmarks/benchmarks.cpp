@@ -220,11 +220,17 @@ template <class Held>
 void measure_held(benchmark::State& state, std::size_t count, bool giving_back) {
     using clock = std::chrono::steady_clock;
     Held held;
+    malloc_trim(0); // how a large heap is released depends on what it held before
+    held.take(count);
+    held.give_back();
     for (auto _ : state) {
         const auto start = clock::now();
         held.take(count);
         const auto middle = clock::now();
         held.give_back();
+        // whoever asks for a large block next waits until the small ones given back are joined
+        const auto large = std::make_unique<char[]>(1 << 16);
+        benchmark::DoNotOptimize(large.get());
         const std::chrono::duration<double> time =
             giving_back ? clock::now() - middle : middle - start;
         state.SetIterationTime(time.count());
@@ -240,7 +246,7 @@ template <class Held> void measure_held(const std::string& holder) {
                                              measure_held<Held>(state, count, giving_back);
                                          })
                 ->UseManualTime()
-                ->Repetitions(5); // the largest take seconds
+                ->Repetitions(3); // the largest take seconds
         }
     }
 }
@@ -339,7 +345,7 @@ int main(int count, char** arguments) {
     using namespace kivo::benchmarks;
     // as in a program that has run for a while: the heap keeps its pages, and malloc knows that
     // there are threads
-    mallopt(M_TRIM_THRESHOLD, 1 << 30);
+    mallopt(M_TRIM_THRESHOLD, -1);
     mallopt(M_MMAP_THRESHOLD, 1 << 25);
     std::thread([] {}).join();
 
