@@ -160,6 +160,7 @@ TEST(base_values, datetime) {
          "2026-11-24T08-30-15-03:00", "2026-11-24T08:30:15 03:00", "2026-11-24T08:30:15-03-00",
          "2026-11-24T0x:30:15-03:00"});
     EXPECT_EQ(text_of(datetime()), "result 3") << "no time has no text";
+    EXPECT_EQ(datetime().offset(), datetime::utc_offset()) << "nothing is UTC";
     EXPECT_NE(value_of<datetime>("2026-11-24T12:00:00-03:00"),
               value_of<datetime>("2026-11-24T15:00:00+00:00"))
         << "the offset is part of the value";

@@ -38,7 +38,8 @@ template <class Class> std::vector<std::string> texts_after_a_move(const Class& 
     }
 }
 
-// Catches a setter or a getter that reaches a neighbour of its field.
+// Catches a setter or a getter that reaches a neighbour of its field, or a setter that takes from
+// its argument.
 TYPED_TEST_P(every_class, setting_one_field_leaves_the_others_alone) {
     for_each_field<TypeParam>([](const auto& changed, std::size_t index) {
         using accessor = std::remove_cvref_t<decltype(changed)>;
@@ -52,6 +53,7 @@ TYPED_TEST_P(every_class, setting_one_field_leaves_the_others_alone) {
             expected[index] = text(value);
             (object.*changed.set)(value);
             EXPECT_EQ(texts(object), expected) << changed.element;
+            EXPECT_EQ(text(value), expected[index]) << changed.element << " takes a copy";
         }
     });
 }
