@@ -246,7 +246,7 @@ template <class Held> void measure_held(const std::string& holder) {
                                              measure_held<Held>(state, count, giving_back);
                                          })
                 ->UseManualTime()
-                ->Repetitions(3); // the largest take seconds
+                ->Repetitions(5); // the largest take seconds
         }
     }
 }
