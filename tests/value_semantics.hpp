@@ -38,6 +38,14 @@ template <class Class> std::vector<std::string> texts_after_a_move(const Class& 
     }
 }
 
+// Catches a number or a code that is something before it is set.
+TYPED_TEST_P(every_class, a_new_object_holds_nothing) {
+    for_each_field<TypeParam>([](const auto& field, std::size_t) {
+        using value = value_of<std::remove_cvref_t<decltype(field)>, TypeParam>;
+        EXPECT_EQ(text((TypeParam().*field.get)()), text(value())) << field.element;
+    });
+}
+
 // Catches a setter or a getter that reaches a neighbour of its field, or a setter that takes from
 // its argument.
 TYPED_TEST_P(every_class, setting_one_field_leaves_the_others_alone) {
@@ -205,7 +213,8 @@ TYPED_TEST_P(every_class, only_what_never_throws_is_noexcept) {
     });
 }
 
-REGISTER_TYPED_TEST_SUITE_P(every_class, setting_one_field_leaves_the_others_alone,
+REGISTER_TYPED_TEST_SUITE_P(every_class, a_new_object_holds_nothing,
+                            setting_one_field_leaves_the_others_alone,
                             setting_an_absent_value_removes_it, copies_are_whole_and_share_nothing,
                             assignment_replaces_every_field, self_assignment_changes_nothing,
                             moves_leave_what_the_kind_promises, empty_handles_allocate_nothing,
