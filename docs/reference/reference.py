@@ -126,11 +126,16 @@ def classes_page(subsystems):
     return "\n".join(lines) + "\n"
 
 
+def comments_of(subsystems):
+    """The comment of each getter, by class and getter."""
+    return {(each.name, getter): comment
+            for classes in subsystems.values() for each in classes
+            for getter, comment in each.getters.items()}
+
+
 def check(subsystems, rows):
     faults = []
-    comments = {(each.name, getter): comment
-                for classes in subsystems.values() for each in classes
-                for getter, comment in each.getters.items()}
+    comments = comments_of(subsystems)
     for owner, getter in comments.keys() - {(row.owner, row.getter) for row in rows}:
         faults.append(f"{owner}::{getter} is not in the layout map")
     for row in rows:
@@ -198,9 +203,7 @@ def pages(subsystems, rows):
     yield page("elements", "Elements of the layout",
                "Every element and attribute of the layout that a field holds, and which field it is.", "",
                *(f"- \\subpage element_{name}" for name in sorted(index, key=str.lower)))
-    comments = {(each.name, getter): comment
-                for classes in subsystems.values() for each in classes
-                for getter, comment in each.getters.items()}
+    comments = comments_of(subsystems)
     for name, found in index.items():
         lines = []
         for row in found:
