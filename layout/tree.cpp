@@ -1,0 +1,271 @@
+#include <layout/tree.hpp>
+
+#include <algorithm>
+#include <charconv>
+#include <cstring>
+#include <deque>
+#include <functional>
+#include <stdexcept>
+#include <utility>
+
+namespace kivo::erp::v12::layout {
+
+const node* child_named(const node& parent, std::string_view name) {
+    for (const node& child : children(parent)) {
+        if (child.name == name) {
+            return &child;
+        }
+    }
+    return nullptr;
+}
+
+void tree::open(std::string_view name, std::string_view text) {
+    const std::size_t index = nodes_.size();
+    nodes_.push_back({name, text, 1, static_cast<std::uint32_t>(index - open_)});
+    open_ = index;
+}
+
+void tree::close() {
+    node& closed = nodes_[open_];
+    closed.size = static_cast<std::uint32_t>(nodes_.size() - open_);
+    open_ -= closed.up;
+}
+
+void tree::add(const node& copied) {
+    nodes_.insert(nodes_.end(), &copied, &copied + copied.size);
+    node& top = nodes_[nodes_.size() - copied.size];
+    top.up = static_cast<std::uint32_t>(nodes_.size() - copied.size - open_);
+}
+
+char* tree::place(std::size_t size) {
+    if (!texts_) {
+        texts_ = std::make_unique<std::pmr::monotonic_buffer_resource>(std::size_t{4096});
+    }
+    return static_cast<char*>(texts_->allocate(size, 1));
+}
+
+std::string_view tree::keep(std::string_view text) {
+    if (text.empty()) {
+        return {};
+    }
+    char* const kept = place(text.size());
+    std::memcpy(kept, text.data(), text.size());
+    return {kept, text.size()};
+}
+
+namespace {
+
+std::string numbered(std::string_view name, std::size_t number) {
+    return std::string(name) + '[' + std::to_string(number) + ']';
+}
+
+} // namespace
+
+std::string path_teller::operator()(const node& element) {
+    if (&element == root_) {
+        return {};
+    }
+    const node& parent = *(&element - element.up);
+    if (counted_.insert(&parent).second) {
+        std::unordered_map<std::string_view, std::uint32_t> total;
+        for (const node& child : children(parent)) {
+            ++total[child.name];
+        }
+        std::unordered_map<std::string_view, std::uint32_t> met;
+        for (const node& child : children(parent)) {
+            if (total[child.name] > 1) {
+                number_of_[&child] = ++met[child.name];
+            }
+        }
+    }
+    std::string path = (*this)(parent);
+    path += path.empty() ? "" : "/";
+    const auto number = number_of_.find(&element);
+    return path += number == number_of_.end() ? std::string(element.name)
+                                              : numbered(element.name, number->second);
+}
+
+std::vector<placed_text> texts_of(const node& root) {
+    std::vector<placed_text> result;
+    path_teller path(root);
+    for (const node* element = &root + 1; element != &root + root.size; ++element) {
+        if (element->holds_text()) {
+            result.push_back({path(*element), std::string(element->text)});
+        }
+    }
+    return result;
+}
+
+namespace {
+
+/// A tree that grows anywhere.
+struct growing {
+    std::string_view name;
+    std::uint32_t number = 1;
+    core::v7::optional<std::string_view> text;
+    std::deque<growing> inner; // addresses have to stay
+
+    /// The element of this name and number in it, which is made unless it is there.
+    growing& in(std::string_view wanted, std::uint32_t wanted_number) {
+        std::uint32_t last = 0;
+        // texts come in order: what is looked for was usually named last
+        for (auto known = inner.rbegin(); known != inner.rend(); ++known) {
+            if (known->name == wanted) {
+                if (known->number == wanted_number) {
+                    return *known;
+                }
+                last = std::max(last, known->number);
+                if (last < wanted_number) {
+                    break;
+                }
+            }
+        }
+        if (wanted_number != last + 1) {
+            throw std::invalid_argument("number " + std::to_string(wanted_number) +
+                                        " without those before it");
+        }
+        inner.push_back({wanted, wanted_number, {}, {}});
+        return inner.back();
+    }
+
+    void add_to(tree& result) const {
+        result.open(result.keep(name), result.keep(text.value_or("")));
+        for (const bool attributes : {true, false}) {
+            for (const growing& element : inner) {
+                if (element.name.starts_with('@') == attributes) {
+                    element.add_to(result);
+                }
+            }
+        }
+        result.close();
+    }
+};
+
+/// Parts the first name, with its number, from a path.
+std::pair<std::string_view, std::uint32_t> take_name(std::string_view& path) {
+    std::string_view step = path.substr(0, path.find('/'));
+    path.remove_prefix(std::min(step.size() + 1, path.size()));
+    std::uint32_t number = 1;
+    if (const std::size_t bracket = step.find('['); bracket != step.npos) {
+        const std::string_view digits = step.substr(bracket + 1);
+        const char* const end = digits.data() + digits.size();
+        const auto [stop, error] = std::from_chars(digits.data(), end, number);
+        if (error != std::errc() || stop + 1 != end || *stop != ']' || number == 0) {
+            throw std::invalid_argument("no number in brackets");
+        }
+        step = step.substr(0, bracket);
+    }
+    if (step.find_first_not_of('@') == step.npos) {
+        throw std::invalid_argument("an element without a name");
+    }
+    return {step, number};
+}
+
+} // namespace
+
+tree tree_of(std::string_view root, const std::vector<placed_text>& texts) {
+    growing top{root, 1, {}, {}};
+    for (const placed_text& placed : texts) {
+        try {
+            growing* element = &top;
+            std::string_view rest = placed.path;
+            do {
+                const auto [name, number] = take_name(rest);
+                element = &element->in(name, number);
+            } while (!rest.empty());
+            if (element->text) {
+                throw std::invalid_argument("named twice");
+            }
+            element->text = placed.text;
+        } catch (const std::invalid_argument& failure) {
+            throw std::invalid_argument(placed.path + ": " + failure.what());
+        }
+    }
+    tree result;
+    top.add_to(result);
+    return result;
+}
+
+namespace {
+
+using node_list = std::vector<const node*>;
+
+/// What two elements have in them, by name. Names that only the second has stand behind the one
+/// that they follow there.
+struct paired_children {
+    struct of_name {
+        node_list left;
+        node_list right;
+    };
+    std::vector<of_name> names;
+
+    paired_children(const node* left, const node* right) {
+        std::unordered_map<std::string_view, std::size_t> known;
+        std::vector<of_name> found;
+        std::vector<std::size_t> order;
+        const auto meet = [&](const node& child, std::size_t place) {
+            const auto [name, is_new] = known.emplace(child.name, found.size());
+            if (is_new) {
+                found.emplace_back();
+                order.insert(order.begin() + static_cast<std::ptrdiff_t>(place), name->second);
+            }
+            return name->second;
+        };
+        if (left != nullptr) {
+            for (const node& child : children(*left)) {
+                found[meet(child, order.size())].left.push_back(&child);
+            }
+        }
+        if (right != nullptr) {
+            std::size_t place = 0;
+            std::string_view previous;
+            for (const node& child : children(*right)) {
+                const std::size_t name = meet(child, place);
+                if (child.name != previous) {
+                    const auto met = std::find(order.begin(), order.end(), name);
+                    place = static_cast<std::size_t>(met - order.begin()) + 1;
+                    previous = child.name;
+                }
+                found[name].right.push_back(&child);
+            }
+        }
+        for (const std::size_t name : order) {
+            names.push_back(std::move(found[name]));
+        }
+    }
+};
+
+/// Either may be null: there is no such element.
+void compare(const node* left, const node* right, const std::string& path,
+             std::vector<difference>& result) {
+    const auto text = [](const node* element) {
+        return element != nullptr && element->holds_text()
+                   ? core::v7::optional<std::string>(element->text)
+                   : core::v7::optional<std::string>();
+    };
+    if (text(left) != text(right)) {
+        result.push_back({path, text(left), text(right)});
+    }
+    for (const auto& name : paired_children(left, right).names) {
+        const std::size_t total = std::max(name.left.size(), name.right.size());
+        for (std::size_t index = 0; index < total; ++index) {
+            const node* const left_child = index < name.left.size() ? name.left[index] : nullptr;
+            const node* const right_child = index < name.right.size() ? name.right[index] : nullptr;
+            const std::string_view own = (left_child != nullptr ? left_child : right_child)->name;
+            compare(left_child, right_child,
+                    path + (path.empty() ? "" : "/") +
+                        (total > 1 ? numbered(own, index + 1) : std::string(own)),
+                    result);
+        }
+    }
+}
+
+} // namespace
+
+std::vector<difference> differences(const node& left, const node& right) {
+    std::vector<difference> result;
+    compare(&left, &right, "", result);
+    return result;
+}
+
+} // namespace kivo::erp::v12::layout
