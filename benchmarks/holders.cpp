@@ -51,8 +51,8 @@ template <class Value> plain<Value> plain_value(const Value& value) {
         return result;
     } else if constexpr (group<Value>) {
         plain<Value> result;
-        for_each_accessor<Value>([&](const auto& accessor, auto index) {
-            std::get<index>(result.fields) = plain_value((value.*accessor.first)());
+        for_each_field<Value>([&](const auto& accessor, auto index) {
+            std::get<index>(result.fields) = plain_value((value.*accessor.get)());
         });
         return result;
     } else {
@@ -63,16 +63,16 @@ template <class Value> plain<Value> plain_value(const Value& value) {
 /// Sets the fields that hold something in the source; `convert` makes groups from plain ones.
 template <group Class, class Convert>
 void set_fields(Class& to, const plain<Class>& from, Convert convert) {
-    for_each_accessor<Class>([&](const auto& accessor, auto index) {
-        using value_type = value_of<Class, std::remove_cvref_t<decltype(accessor)>>;
+    for_each_field<Class>([&](const auto& accessor, auto index) {
+        using value_type = typename std::remove_cvref_t<decltype(accessor)>::value_type;
         const auto& source = std::get<index>(from.fields);
         if (!is_present(source)) {
             return;
         }
         if constexpr (std::same_as<value_type, plain<value_type>>) {
-            (to.*accessor.second)(source);
+            (to.*accessor.set)(source);
         } else {
-            (to.*accessor.second)(convert(std::type_identity<value_type>(), source));
+            (to.*accessor.set)(convert(std::type_identity<value_type>(), source));
         }
     });
 }
@@ -173,8 +173,8 @@ template <class Value> std::uint64_t sum(const Value& value) {
         return std::visit([](const auto& held) { return sum(held); }, value);
     } else if constexpr (group<Value>) {
         std::uint64_t result = 0;
-        for_each_accessor<Value>(
-            [&](const auto& accessor, auto) { result += sum((value.*accessor.first)()); });
+        for_each_field<Value>(
+            [&](const auto& accessor, auto) { result += sum((value.*accessor.get)()); });
         return result;
     } else if constexpr (requires { value.fields; }) {
         return std::apply([](const auto&... field) { return (sum(field) + ...); }, value.fields);

@@ -226,24 +226,24 @@ template <class Class> void write_class(peer& to, std::set<std::string>& written
     if (!written.insert(name).second) {
         return;
     }
-    const auto for_each_field = [&](auto visit) {
-        for_each_accessor<Class>([&](const auto& accessor, auto index) {
-            using value = value_of<Class, std::remove_cvref_t<decltype(accessor)>>;
+    const auto for_each_value = [&](auto visit) {
+        for_each_field<Class>([&](const auto& accessor, auto index) {
+            using value = typename std::remove_cvref_t<decltype(accessor)>::value_type;
             visit.template operator()<value>('f' + std::to_string(index));
         });
     };
-    for_each_field([&]<class Value>(const std::string&) { write_groups<Value>(to, written); });
+    for_each_value([&]<class Value>(const std::string&) { write_groups<Value>(to, written); });
 
     if (to.proto) {
         to.schema << "message " << name << " {\n";
         unsigned number = 0;
-        for_each_field([&]<class Value>(const std::string& field) {
+        for_each_value([&]<class Value>(const std::string& field) {
             write_proto<Value>(to, field, number, presence::always, false);
         });
         to.schema << "}\n";
     } else {
         to.schema << "<xs:complexType name='" << name << "'>\n<xs:sequence>\n";
-        for_each_field([&]<class Value>(const std::string& field) {
+        for_each_value([&]<class Value>(const std::string& field) {
             write_xsd<Value>(to, field, presence::always);
         });
         to.schema << "</xs:sequence>\n</xs:complexType>\n";
@@ -256,14 +256,14 @@ template <class Class> void write_class(peer& to, std::set<std::string>& written
     to.declarations << fill << ";\n" << read << ";\n";
     to.functions << fill << " {\n";
     std::size_t index = 0;
-    for_each_field([&]<class Value>(const std::string& field) {
+    for_each_value([&]<class Value>(const std::string& field) {
         to.functions << "{\n";
         write_fill<Value>(to, field, "std::get<" + std::to_string(index++) + ">(from.fields)",
                           presence::always);
         to.functions << "}\n";
     });
     to.functions << "}\n" << read << " {\nstd::uint64_t sum = 0;\n";
-    for_each_field([&]<class Value>(const std::string& field) {
+    for_each_value([&]<class Value>(const std::string& field) {
         write_read<Value>(to, field, presence::always);
     });
     to.functions << "return sum;\n}\n";

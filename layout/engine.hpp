@@ -1,13 +1,16 @@
 #pragma once
 
 #include <layout/map.hpp>
-#include <layout/node.hpp>
+#include <layout/outside_texts.hpp>
+#include <layout/report.hpp>
 #include <layout/text.hpp>
-
-#include <fiscal/types.hpp>
+#include <layout/tree.hpp>
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
+#include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <tuple>
@@ -15,380 +18,813 @@
 #include <utility>
 #include <vector>
 
-/// The engine of the layout map, in both directions: `read_fields` fills an object from the
-/// children of an element, `write_fields` makes these children from the object. Reading marks each
-/// element that a field asks for, so that what none asks for can be told afterwards (`sum_up`).
+/// The engine of the layout map, in both directions. The compiler makes a table of each map: the
+/// names that can stand in an element, and for each entry a function that reads it and one that
+/// writes it, which stand next to each other here. What leads from entry to entry is the same for
+/// all tables, and compiled once.
 namespace kivo::erp::v12::layout {
 
-/// A value inside an optional stands in the layout at its default too.
-constexpr form when_present(form how) {
-    how.optional = false;
-    how.empty = true;
-    return how;
-}
+class reader;
+class writer;
 
-/// What an entry found, in the order in which the better of several counts.
-enum class found { nothing, refused_text, value };
+/// What an entry took of the elements in a group.
+struct taken {
+    bool stored = false; ///< the object holds something of them
+    bool all = false;    ///< the entry has seen to all of its elements, those behind as well
+};
 
-template <class Class>
-found read_fields(node& parent, Class& object, std::string_view without = {});
+/// An entry of a map.
+struct table_entry {
+    /// Reads the first of the entry's elements in a parent, or all of them.
+    taken (*read)(reader&, const node& parent, const node& first, void* object);
+    void (*write)(writer&, const void* object);
+    bool (*stands)(const void* object); ///< whether it is written; null: always
+    std::size_t field; ///< the first of the entries that leave no room for each other, by index
+    bool plain;        ///< cannot tell absence: may be written although nothing was read
+};
 
-template <class Value> found read_text_of(node& element, const form& how, Value& value) {
-    if (!read_text(value, element.text, how)) {
-        element.reading = node::state::refused;
-        element.instead = expected_text<Value>(how);
-        return found::refused_text;
-    }
-    const auto own_text = text_of(value, how);
-    element.reading = own_text == element.text ? node::state::read : node::state::changed;
-    element.instead = own_text.value_or("");
-    return found::value;
-}
+/// A name that can stand in an element, and the entry that knows it.
+struct table_name {
+    element_name name;
+    std::size_t entry;
+};
 
-/// The attribute that numbers the elements of a list holds nothing but what their order tells.
-inline void read_position(node& element, const char* attribute, std::size_t position) {
-    node* const number = element.next_unread(attribute);
-    if (number != nullptr) {
-        const bool in_order = number->text == std::to_string(position);
-        number->reading = in_order ? node::state::read : node::state::refused;
-        number->instead = in_order ? "" : "the element's place in the list";
-    }
-}
+/// A map, or the entries of an element in it, as data.
+struct table {
+    static constexpr std::size_t none = static_cast<std::size_t>(-1);
 
-template <class Value>
-found read_value(node& parent, std::string_view name, const form& how, Value& value) {
-    if constexpr (is_optional<Value>) {
-        typename Value::value_type content{};
-        const found result = read_value(parent, name, when_present(how), content);
-        if (result == found::value) {
-            value = std::move(content);
+    std::span<const table_name> names; ///< in the layout's order
+    std::span<const table_entry> entries;
+    std::uint64_t plain;       ///< the plain entries, as bits
+    std::uint64_t conditional; ///< those that have a condition
+
+    /// Where a name stands, looked for from where it is expected; `none` where it does not.
+    std::size_t find(const element_name& name, std::size_t expected = 0) const;
+    /// Whether anything in an element has a name that stands here.
+    bool knows_content_of(const node& element) const;
+};
+
+/// Which entries of a table have read something, as bits.
+struct frame {
+    std::uint64_t stored = 0;  ///< the object holds something of the entry
+    std::uint64_t seen_to = 0; ///< all elements of the entry were read or reported
+    std::uint64_t taken = 0;   ///< the field of the entry has no room for more
+};
+
+/// Reads objects from a document, and reports.
+class reader {
+public:
+    /// What stands outside the objects is left empty where the document does not have it.
+    reader(const node& root, outside_texts& outside, report& told);
+
+    outside_texts& outside() const { return *outside_; }
+
+    /// Reads all elements in a group, and then what `finish` tells.
+    void read_whole(const table& known, const node& parent, void* object,
+                    std::string_view numbering = {});
+    /// Reads an item of a list, whose number stands in an attribute if that has a name.
+    void read_item(const table& known, const node& element, void* object,
+                   std::string_view numbering, std::size_t number);
+    /// Reads a group in an element of its own. Answers whether the object holds something of it:
+    /// an optional that is there does, unless all that is in it was refused.
+    bool read_group(const table& known, const node& element, void* object, bool always);
+    /// Reads those elements of a group that a table knows, from one on. Answers whether the object
+    /// holds something of them.
+    bool read_embedded(const table& known, const node& parent, const node& first, void* object);
+
+    /// Reads the text of an element. Answers whether the value holds it.
+    template <single_value Value>
+    [[gnu::noinline]] bool read_single(const node& element, const form& how, Value& value) {
+        if (!read_text(value, element.text, how)) {
+            tell_refused(element, expected_text<Value>(element.text, how));
+            return false;
         }
-        return result;
-    } else if constexpr (is_list<Value>) {
-        for (;;) {
-            typename Value::value_type item{};
-            if (read_value(parent, name, how, item) == found::nothing) {
-                return value.empty() ? found::nothing : found::value;
+        value_chars own;
+        if (!put_text(own, value, how)) {
+            tell_no_room(element);
+            return false;
+        }
+        tell_held(element, own.text());
+        return true;
+    }
+    /// Reads a text as it is, behind others that are always the same; null where it is refused. It
+    /// is there until the next one is read.
+    const core::v7::optional<std::string>* read_string(const node& element, bool empty_too,
+                                                       std::string_view prefix = {});
+
+    void tell_held(const node& element) {
+        ++told_->texts_in_fields;
+        if (element.size != 1) {
+            tell_inner(element);
+        }
+    }
+    void tell_held(const node& element, std::string_view own) {
+        // a call costs more than to compare the few characters here
+        if (!std::equal(own.begin(), own.end(), element.text.begin(), element.text.end())) {
+            tell_otherwise(element, own);
+        }
+        tell_held(element);
+    }
+    void tell_otherwise(const node& element, std::string_view own);
+    void tell_refused(const node& element, std::string expected);
+    void tell_moved(const node& element, std::string to);
+    /// Tells that an element of several of its name is written as another one of them.
+    void tell_renumbered(const node& element, std::size_t number);
+    void tell_no_field(const node& element);
+    void tell_no_room(const node& element);
+    /// Tells that a group has no room, unless what is in it was told.
+    void tell_empty(const node& element);
+
+private:
+    frame read_elements(const table& known, const node& parent, void* object,
+                        std::string_view numbering);
+    void take(const table& known, std::size_t name, const node& parent, const node& child,
+              void* object, frame& read);
+    void finish(const table& known, const frame& read, const node& parent, const void* object);
+    void tell_inner(const node& element);
+    void tell_added(const node& parent, std::string_view path, std::string_view text);
+
+    path_teller path_;
+    outside_texts* outside_;
+    report* told_;
+    core::v7::optional<std::string> string_; // its memory serves all texts
+};
+
+/// Writes objects into a document.
+class writer {
+public:
+    writer(tree& out, const outside_texts& outside) : out_(&out), outside_(&outside) {}
+
+    tree& out() const { return *out_; }
+    const outside_texts& outside() const { return *outside_; }
+
+    /// Writes all entries of a table.
+    void write_whole(const table& known, const void* object);
+    void write_item(const table& known, const element_name& name, const void* object,
+                    std::string_view numbering, std::size_t number);
+    /// Writes a group in an element of its own, which stands where something is in it, or always.
+    void write_group(const table& known, const element_name& name, const void* object, bool always);
+
+    template <single_value Value>
+    [[gnu::noinline]] void write_single(const element_name& name, const form& how,
+                                        const Value& value, std::string_view prefix = {}) {
+        value_chars chars;
+        if (put_text(chars, value, how)) {
+            add(name, prefix, chars.text());
+        }
+    }
+
+private:
+    void add(const element_name& name, std::string_view prefix, std::string_view text);
+
+    tree* out_;
+    const outside_texts* outside_;
+};
+
+/// The table of some entries of a class.
+template <class Class, class Entries> struct tables;
+
+/// The table of a map.
+template <class Map> constexpr const table& table_of() {
+    static_assert(
+        requires { Map::fields; }, "a class without a map");
+    return tables<typename Map::c, std::remove_const_t<decltype(Map::fields)>>::whole;
+}
+
+/// A name in the types of the map, as it stands in a document.
+template <characters Name> inline constexpr element_name name_of{Name.view()};
+
+/// What a field holds, in an element of its own, or in several of one name where it is a list.
+template <class Value> struct held {
+    static taken read(reader& in, const node&, const node& first, Value& value, const form& how,
+                      std::string_view = {}) {
+        if constexpr (group<Value>) {
+            return {in.read_group(table_of<map_of<Value>>(), first, &value, false)};
+        } else {
+            return {in.read_single(first, how, value)};
+        }
+    }
+
+    static void write(writer& out, const element_name& name, const Value& value, const form& how,
+                      std::string_view = {}) {
+        if constexpr (group<Value>) {
+            out.write_group(table_of<map_of<Value>>(), name, &value, false);
+        } else {
+            out.write_single(name, how, value);
+        }
+    }
+};
+
+template <class Item> struct held<std::vector<Item>> {
+    static taken read(reader& in, const node& parent, const node& first, std::vector<Item>& items,
+                      const form&, std::string_view numbering = {}) {
+        std::size_t count = 0;
+        for (const node& child : children(parent)) {
+            count += child.name == first.name ? 1 : 0;
+        }
+        items.reserve(count);
+        for (const node& child : children(parent)) {
+            if (child.name == first.name) {
+                Item& item = items.emplace_back();
+                in.read_item(table_of<map_of<Item>>(), child, &item, numbering, items.size());
             }
-            value.push_back(std::move(item));
         }
-    } else if constexpr (group<Value>) {
-        // elements of one name may belong to different fields: the content tells
-        std::size_t position = 0;
-        for (node& child : parent.children) {
-            position += child.name == name ? 1 : 0;
-            if (child.reading == node::state::unread && child.name == name &&
-                (read_fields(child, value) != found::nothing || child.children.empty())) {
-                child.reading = node::state::entered;
-                if (how.position != nullptr) {
-                    read_position(child, how.position, position);
+        return {true, true};
+    }
+
+    static void write(writer& out, const element_name& name, const std::vector<Item>& items,
+                      const form&, std::string_view numbering = {}) {
+        std::size_t number = 0;
+        for (const Item& item : items) {
+            out.write_item(table_of<map_of<Item>>(), name, &item, numbering, ++number);
+        }
+    }
+};
+
+/// What is in an optional, or an alternative of a choice: it stands at its default, too.
+template <class Value> struct held_if_present : held<Value> {
+    static constexpr form present(form how) {
+        how.omit_default = false;
+        how.even_empty = how.even_empty || std::same_as<Value, std::string>;
+        return how;
+    }
+
+    static taken read(reader& in, const node& parent, const node& first, Value& value,
+                      const form& how, std::string_view numbering = {}) {
+        if constexpr (group<Value>) {
+            return {in.read_group(table_of<map_of<Value>>(), first, &value, true)};
+        } else {
+            return held<Value>::read(in, parent, first, value, present(how), numbering);
+        }
+    }
+
+    static void write(writer& out, const element_name& name, const Value& value, const form& how,
+                      std::string_view numbering = {}) {
+        if constexpr (group<Value>) {
+            out.write_group(table_of<map_of<Value>>(), name, &value, true);
+        } else {
+            held<Value>::write(out, name, value, present(how), numbering);
+        }
+    }
+};
+
+template <class Value> struct held<core::v7::optional<Value>> {
+    static taken read(reader& in, const node& parent, const node& first,
+                      core::v7::optional<Value>& value, const form& how,
+                      std::string_view numbering = {}) {
+        return held_if_present<Value>::read(in, parent, first, value.emplace(), how, numbering);
+    }
+
+    static void write(writer& out, const element_name& name, const core::v7::optional<Value>& value,
+                      const form& how, std::string_view numbering = {}) {
+        if (value) {
+            held_if_present<Value>::write(out, name, *value, how, numbering);
+        }
+    }
+};
+
+/// Where an alternative of a choice stands. `names` are those that it can have in the element that
+/// holds the choice; `read` answers whether the element is its own.
+template <class Place, class Alternative> struct alternative;
+
+/// A choice: the places of its alternatives, in index order.
+template <class Places, class Variant> struct choice;
+template <class... Place, class... Alternative>
+struct choice<entries<Place...>, core::v7::variant<Alternative...>> {
+    using variant = core::v7::variant<Alternative...>;
+    static constexpr std::size_t count = sizeof...(Place);
+    static_assert(count == sizeof...(Alternative), "a place for each alternative, in index order");
+
+    template <class Visit> static constexpr void names(Visit visit) {
+        (alternative<Place, Alternative>::names(visit), ...);
+    }
+
+    static bool knows(const element_name& name) {
+        bool known = false;
+        names([&](const element_name& own) { known = known || own == name; });
+        return known;
+    }
+
+    /// `make.operator()<index...>()` makes the alternative and answers it.
+    template <class Make>
+    static taken read(reader& in, const node& parent, const node& first, Make make) {
+        taken result;
+        const auto read_one = [&]<std::size_t index>() {
+            using type = std::variant_alternative_t<index, variant>;
+            using place = alternative<std::tuple_element_t<index, std::tuple<Place...>>, type>;
+            if (!place::is_own(parent, first)) {
+                return false;
+            }
+            result = place::read(
+                in, parent, first, [&]<std::size_t... inner>()->auto& {
+                    return make.template operator()<index, inner...>();
+                });
+            if constexpr (is_list<type>) {
+                for (const node& child : children(parent, first)) {
+                    if (child.name != first.name && knows(child.name)) {
+                        in.tell_no_room(child);
+                    }
                 }
-                return found::value;
             }
-        }
-        return found::nothing;
-    } else {
-        node* const child = parent.next_unread(name);
-        return child == nullptr ? found::nothing : read_text_of(*child, how, value);
-    }
-}
-
-template <class Value> found read_embedded(node& parent, std::string_view without, Value& value) {
-    if constexpr (is_optional<Value>) {
-        typename Value::value_type content{};
-        const found result = read_fields(parent, content, without);
-        if (result == found::value) {
-            value = std::move(content);
-        }
-        return result;
-    } else {
-        return read_fields(parent, value, without);
-    }
-}
-
-template <class Value> found read_place(node& parent, const char* name, Value& value) {
-    return read_value(parent, name, form{}, value);
-}
-
-template <class Value> found read_place(node& parent, here_place, Value& value) {
-    return read_fields(parent, value);
-}
-
-template <class Value> found read_place(node&, nowhere_place, Value&) { return found::nothing; }
-
-/// Reads what `read_content` finds in the child of this name, and leaves alone a child in which it
-/// finds nothing.
-template <class Read> found read_child(node& parent, const char* name, Read read_content) {
-    node* const child = parent.next_unread(name);
-    if (child == nullptr) {
-        return found::nothing;
-    }
-    const found result = read_content(*child);
-    if (result != found::nothing) {
-        child->reading = node::state::entered;
-    }
-    return result;
-}
-
-/// Reads the alternative that is there. Later ones are tried first: `here` behind a plain text
-/// tells by a constant whether the text is its own.
-template <class Variant, class... Places>
-found read_choice(node& parent, const std::tuple<Places...>& places, Variant& value) {
-    if constexpr (is_optional<Variant>) {
-        typename Variant::value_type content = {};
-        const found result = read_choice(parent, places, content);
-        if (result == found::value) {
-            value = std::move(content);
-        }
-        return result;
-    } else {
-        constexpr std::size_t last = sizeof...(Places) - 1;
-        found result = found::nothing;
-        const auto read_alternative = [&]<std::size_t index>() {
-            std::variant_alternative_t<index, Variant> alternative{};
-            result = read_place(parent, std::get<index>(places), alternative);
-            if (result == found::value) {
-                value.template emplace<index>(std::move(alternative));
-            }
-            return result != found::nothing;
+            return true;
         };
-        [&]<std::size_t... step>(std::index_sequence<step...>) {
-            (read_alternative.template operator()<last - step>() || ...);
+        // later ones first: a mark tells whether a text is that of the alternative before it
+        const bool any = [&]<std::size_t... step>(std::index_sequence<step...>) {
+            return (read_one.template operator()<count - 1 - step>() || ...);
         }
-        (std::index_sequence_for<Places...>());
+        (std::make_index_sequence<count>());
+        if (!any) {
+            in.tell_no_room(first);
+        }
         return result;
     }
-}
 
-template <class Value, class... Places>
-found read_place(node& parent, const inside<Places...>& place, Value& value) {
-    return read_child(parent, place.name,
-                      [&](node& child) { return read_choice(child, place.places, value); });
-}
-
-/// Sets a field to what `read_into` finds for it; a field that finds nothing is left alone.
-template <class Class, class Entry, class Read>
-found read_and_set(Class& object, const Entry& entry, Read read_into) {
-    value_of<decltype(entry.get), Class> value{};
-    const found result = read_into(value);
-    if (result == found::value) {
-        (object.*entry.set)(value);
-    }
-    return result;
-}
-
-template <class Class, class Get, class Set>
-found read_entry(node& parent, Class& object, const field<Get, Set>& entry) {
-    return read_and_set(object, entry, [&](auto& value) {
-        return read_value(parent, entry.name, entry.how, value);
-    });
-}
-
-template <class Class, class Get, class Set>
-found read_entry(node& parent, Class& object, const embedded<Get, Set>& entry) {
-    return read_and_set(object, entry,
-                        [&](auto& value) { return read_embedded(parent, entry.without, value); });
-}
-
-template <class Class, class Get, class Set, class... Places>
-found read_entry(node& parent, Class& object, const one_of<Get, Set, Places...>& entry) {
-    return read_and_set(object, entry,
-                        [&](auto& value) { return read_choice(parent, entry.places, value); });
-}
-
-template <class Class, class Get, class Set>
-found read_entry(node&, Class&, const no_element<Get, Set>&) {
-    return found::nothing;
-}
-
-template <class Class> found read_entry(node&, Class&, const outside&) { return found::nothing; }
-
-template <class Class> found read_entry(node& parent, Class&, const constant& entry) {
-    node* const child = parent.next_unread(entry.name);
-    if (child == nullptr || child->text != entry.text) {
-        return found::nothing;
-    }
-    child->reading = node::state::read;
-    return found::value;
-}
-
-template <class Class, class... Entries>
-found read_entry(node& parent, Class& object, const element<Entries...>& entry) {
-    return read_child(parent, entry.name, [&](node& child) {
-        return std::apply(
-            [&](const auto&... inner) { return std::max({read_entry(child, object, inner)...}); },
-            entry.entries);
-    });
-}
-
-template <class Class, class Entry>
-found read_entry(node& parent, Class& object, const again<Entry>& entry) {
-    return read_entry(parent, object, entry.entry);
-}
-
-template <class Class, class Condition, class Entry>
-found read_entry(node& parent, Class& object, const only_if<Condition, Entry>& entry) {
-    return read_entry(parent, object, entry.entry);
-}
-
-/// The element name of an entry that has one.
-template <class Entry> constexpr std::string_view name_of(const Entry& entry) {
-    if constexpr (requires { entry.name; }) {
-        return entry.name;
-    } else {
-        return {};
-    }
-}
-
-template <class Class> found read_fields(node& parent, Class& object, std::string_view without) {
-    return std::apply(
-        [&](const auto&... entry) {
-            return std::max({!without.empty() && name_of(entry) == without
-                                 ? found::nothing
-                                 : read_entry(parent, object, entry)...});
-        },
-        fields<Class>);
-}
-
-template <class Class>
-void write_fields(node& parent, const Class& object, std::string_view without = {});
-
-template <class Value>
-void write_value(node& parent, const char* name, const form& how, const Value& value) {
-    if constexpr (is_optional<Value>) {
-        if (value) {
-            write_value(parent, name, when_present(how), *value);
-        }
-    } else if constexpr (is_list<Value>) {
-        for (const auto& item : value) {
-            write_value(parent, name, when_present(how), item);
-            if (how.position != nullptr) {
-                auto& attributes = parent.children.back().children;
-                attributes.emplace(attributes.begin(), how.position,
-                                   std::to_string(&item - value.data() + 1));
-            }
-        }
-    } else if constexpr (group<Value>) {
-        node child(name);
-        write_fields(child, value);
-        // an optional or a list says that the group is there, even where it holds nothing
-        if (!child.children.empty() || how.empty) {
-            parent.children.push_back(std::move(child));
-        }
-    } else if (auto text = text_of(value, how)) {
-        parent.children.emplace_back(name, std::move(*text));
-    }
-}
-
-template <class Value>
-void write_embedded(node& parent, std::string_view without, const Value& value) {
-    if constexpr (is_optional<Value>) {
-        if (value) {
-            write_fields(parent, *value, without);
-        }
-    } else {
-        write_fields(parent, value, without);
-    }
-}
-
-template <class Value> void write_place(node& parent, const char* name, const Value& value) {
-    write_value(parent, name, when_present({}), value);
-}
-
-template <class Value> void write_place(node& parent, here_place, const Value& value) {
-    write_fields(parent, value);
-}
-
-template <class Value> void write_place(node&, nowhere_place, const Value&) {}
-
-template <class Variant, class... Places>
-void write_choice(node& parent, const std::tuple<Places...>& places, const Variant& value) {
-    if constexpr (is_optional<Variant>) {
-        if (value) {
-            write_choice(parent, places, *value);
-        }
-    } else {
-        const auto write_alternative = [&]<std::size_t index>() {
+    static void write(writer& out, const variant& value) {
+        const auto write_one = [&]<std::size_t index>() {
             if (value.index() == index) {
-                write_place(parent, std::get<index>(places), std::get<index>(value));
+                alternative<std::tuple_element_t<index, std::tuple<Place...>>,
+                            std::variant_alternative_t<index, variant>>::write(out,
+                                                                               std::get<index>(
+                                                                                   value));
             }
         };
         [&]<std::size_t... index>(std::index_sequence<index...>) {
-            (write_alternative.template operator()<index>(), ...);
+            (write_one.template operator()<index>(), ...);
         }
-        (std::index_sequence_for<Places...>());
+        (std::make_index_sequence<count>());
+    }
+};
+
+template <characters Name, class Alternative> struct alternative<word::as<Name>, Alternative> {
+    template <class Visit> static constexpr void names(Visit visit) { visit(name_of<Name>); }
+    static bool is_own(const node&, const node& first) { return first.name == name_of<Name>; }
+
+    template <class Make>
+    static taken read(reader& in, const node& parent, const node& first, Make make) {
+        return held_if_present<Alternative>::read(in, parent, first, make.template operator()<>(),
+                                                  {});
+    }
+
+    static void write(writer& out, const Alternative& value) {
+        held_if_present<Alternative>::write(out, name_of<Name>, value, {});
+    }
+};
+
+template <class Alternative> struct alternative<word::nowhere, Alternative> {
+    template <class Visit> static constexpr void names(Visit) {}
+    static bool is_own(const node&, const node&) { return false; }
+    template <class Make> static taken read(reader&, const node&, const node&, Make) { return {}; }
+    static void write(writer&, const Alternative&) {}
+};
+
+template <characters Name, class... Place, class Alternative>
+struct alternative<word::inside<Name, Place...>, Alternative> {
+    using inner = choice<entries<Place...>, Alternative>;
+
+    template <class Visit> static constexpr void names(Visit visit) { visit(name_of<Name>); }
+    static bool is_own(const node&, const node& first) { return first.name == name_of<Name>; }
+
+    template <class Make> static taken read(reader& in, const node&, const node& first, Make make) {
+        taken result;
+        for (const node& child : children(first)) {
+            if (!inner::knows(child.name)) {
+                in.tell_no_field(child);
+            } else if (result.stored) {
+                in.tell_no_room(child);
+            } else {
+                result = inner::read(in, first, child, make);
+            }
+        }
+        if (!result.stored) {
+            in.tell_empty(first);
+        }
+        return {result.stored};
+    }
+
+    static void write(writer& out, const Alternative& value) {
+        out.out().open(name_of<Name>);
+        inner::write(out, value);
+        out.out().close_unless_empty();
+    }
+};
+
+template <characters Name, characters Text, class Alternative>
+struct alternative<word::marked_by<Name, Text>, Alternative> {
+    template <class Visit> static constexpr void names(Visit visit) {
+        visit(name_of<Name>);
+        for (const table_name& known : table_of<map_of<Alternative>>().names) {
+            visit(known.name);
+        }
+    }
+
+    static bool is_own(const node& parent, const node&) {
+        const node* const mark = child_named(parent, name_of<Name>);
+        return mark != nullptr && mark->text == Text.view();
+    }
+
+    template <class Make>
+    static taken read(reader& in, const node& parent, const node& first, Make make) {
+        const node& mark = *child_named(parent, name_of<Name>);
+        in.tell_held(mark);
+        for (const node& child : children(parent, mark)) {
+            if (child.name == name_of<Name>) {
+                in.tell_no_room(child);
+            }
+        }
+        in.read_embedded(table_of<map_of<Alternative>>(), parent, first,
+                         &make.template operator()<>());
+        return {true, true};
+    }
+
+    static void write(writer& out, const Alternative& value) {
+        out.out().add(name_of<Name>, Text.view());
+        out.write_whole(table_of<map_of<Alternative>>(), &value);
+    }
+};
+
+/// The alternative of a choice, or that of a choice in it.
+template <std::size_t index, std::size_t... inner, class Variant>
+auto& alternative_in(Variant& value) {
+    if constexpr (sizeof...(inner) == 0) {
+        return std::get<index>(value);
+    } else {
+        return alternative_in<inner...>(std::get<index>(value));
     }
 }
 
-/// Adds a child of this name with what `write_content` writes, if that is anything.
-template <class Write> void write_child(node& parent, const char* name, Write write_content) {
-    node child(name);
-    write_content(child);
-    if (!child.children.empty()) {
-        parent.children.push_back(std::move(child));
+/// A word whose element has its name.
+template <characters Name> struct named_word {
+    template <class Visit> static constexpr void names(Visit visit) { visit(name_of<Name>); }
+};
+
+/// What a word does in the map of a class: it knows the names of its elements, reads and writes.
+template <class Class, class Entry> struct action;
+
+/// Whether a field cannot tell absence.
+template <class Value> inline constexpr bool is_plain = !is_optional<Value> && !is_list<Value>;
+
+/// The value itself, or the one that an optional is given.
+template <class Value> auto& content_in(Value& value) {
+    if constexpr (is_optional<Value>) {
+        return value.emplace();
+    } else {
+        return value;
     }
 }
 
-template <class Value, class... Places>
-void write_place(node& parent, const inside<Places...>& place, const Value& value) {
-    write_child(parent, place.name, [&](node& child) { write_choice(child, place.places, value); });
+/// The value itself, or the one in an optional; null when there is none.
+template <class Value> const auto* content_in(const Value* value) {
+    if constexpr (is_optional<Value>) {
+        return *value ? &**value : nullptr;
+    } else {
+        return value;
+    }
 }
 
-template <class Class, class Get, class Set>
-void write_entry(node& parent, const Class& object, const field<Get, Set>& entry) {
-    write_value(parent, entry.name, entry.how, (object.*entry.get)());
-}
+template <class Class, characters Name, auto Get, auto Set, form How>
+struct action<Class, word::field<Name, Get, Set, How>> : named_word<Name> {
+    using value_type = typename accessor<Get, Set>::value_type;
+    static constexpr bool plain = is_plain<value_type>;
 
-template <class Class, class Get, class Set>
-void write_entry(node& parent, const Class& object, const embedded<Get, Set>& entry) {
-    write_embedded(parent, entry.without, (object.*entry.get)());
-}
+    static taken read(reader& in, const node& parent, const node& first, void* object) {
+        auto& target = *static_cast<Class*>(object);
+        if constexpr (std::same_as<value_type, std::string>) {
+            const auto* const text = in.read_string(first, How.even_empty);
+            if (text != nullptr) {
+                (target.*Set)(**text);
+            }
+            return {text != nullptr};
+        } else if constexpr (std::same_as<value_type, core::v7::optional<std::string>>) {
+            const auto* const text = in.read_string(first, true);
+            if (text != nullptr) {
+                (target.*Set)(*text);
+            }
+            return {text != nullptr};
+        } else {
+            value_type value{};
+            const taken result = held<value_type>::read(in, parent, first, value, How);
+            if (result.stored) {
+                (target.*Set)(value);
+            }
+            return result;
+        }
+    }
 
-template <class Class, class Get, class Set, class... Places>
-void write_entry(node& parent, const Class& object, const one_of<Get, Set, Places...>& entry) {
-    write_choice(parent, entry.places, (object.*entry.get)());
-}
+    static void write(writer& out, const void* object) {
+        held<value_type>::write(out, name_of<Name>, (static_cast<const Class*>(object)->*Get)(),
+                                How);
+    }
+};
 
-template <class Class, class Get, class Set>
-void write_entry(node&, const Class&, const no_element<Get, Set>&) {}
+template <class Class, characters Name, auto Get, auto Set, characters Prefix>
+struct action<Class, word::behind<Name, Get, Set, Prefix>> : named_word<Name> {
+    static constexpr bool plain = true;
 
-template <class Class> void write_entry(node& parent, const Class&, const outside& entry) {
-    parent.children.emplace_back(entry.name);
-}
+    static taken read(reader& in, const node&, const node& first, void* object) {
+        const auto* const text = in.read_string(first, false, Prefix.view());
+        if (text != nullptr) {
+            (static_cast<Class*>(object)->*Set)(**text);
+        }
+        return {text != nullptr};
+    }
 
-template <class Class> void write_entry(node& parent, const Class&, const constant& entry) {
-    parent.children.emplace_back(entry.name, entry.text);
-}
+    static void write(writer& out, const void* object) {
+        out.write_single(name_of<Name>, {}, (static_cast<const Class*>(object)->*Get)(),
+                         Prefix.view());
+    }
+};
 
-template <class Class, class... Entries>
-void write_entry(node& parent, const Class& object, const element<Entries...>& entry) {
-    write_child(parent, entry.name, [&](node& child) {
-        std::apply([&](const auto&... inner) { (write_entry(child, object, inner), ...); },
-                   entry.entries);
-    });
-}
+template <class Class, characters Name, auto Get, auto Set, characters Attribute>
+struct action<Class, word::numbered<Name, Get, Set, Attribute>> : named_word<Name> {
+    using value_type = typename accessor<Get, Set>::value_type;
+    static constexpr bool plain = false;
+
+    static taken read(reader& in, const node& parent, const node& first, void* object) {
+        value_type value;
+        const taken result = held<value_type>::read(in, parent, first, value, {}, Attribute.view());
+        (static_cast<Class*>(object)->*Set)(value);
+        return result;
+    }
+
+    static void write(writer& out, const void* object) {
+        held<value_type>::write(out, name_of<Name>, (static_cast<const Class*>(object)->*Get)(), {},
+                                Attribute.view());
+    }
+};
+
+template <class Class, auto Get, auto Set, class Part>
+struct action<Class, word::embedded<Get, Set, Part>> {
+    using value_type = typename accessor<Get, Set>::value_type;
+    static constexpr bool plain = is_plain<value_type>;
+
+    template <class Visit> static constexpr void names(Visit visit) {
+        for (const table_name& known : table_of<Part>().names) {
+            visit(known.name);
+        }
+    }
+
+    static taken read(reader& in, const node& parent, const node& first, void* object) {
+        value_type value{};
+        const bool stored = in.read_embedded(table_of<Part>(), parent, first, &content_in(value));
+        if (stored) {
+            (static_cast<Class*>(object)->*Set)(value);
+        }
+        return {stored, true};
+    }
+
+    static void write(writer& out, const void* object) {
+        const value_type value = (static_cast<const Class*>(object)->*Get)();
+        if (const auto* const content = content_in(&value)) {
+            out.write_whole(table_of<Part>(), content);
+        }
+    }
+};
+
+template <class Class, bool EvenEmpty, characters Name, class... Entry>
+struct action<Class, word::element<EvenEmpty, Name, Entry...>> : named_word<Name> {
+    static constexpr bool plain = true;
+
+    static taken read(reader& in, const node&, const node& first, void* object) {
+        return {in.read_group(tables<Class, entries<Entry...>>::whole, first, object, EvenEmpty)};
+    }
+
+    static void write(writer& out, const void* object) {
+        out.write_group(tables<Class, entries<Entry...>>::whole, name_of<Name>, object, EvenEmpty);
+    }
+};
+
+template <class Class, auto Get, auto Set, class... Place>
+struct action<Class, word::one_of<Get, Set, Place...>> {
+    using value_type = typename accessor<Get, Set>::value_type;
+    using alternatives = choice<entries<Place...>, content_of<value_type>>;
+    static constexpr bool plain = is_plain<value_type>;
+
+    template <class Visit> static constexpr void names(Visit visit) { alternatives::names(visit); }
+
+    static taken read(reader& in, const node& parent, const node& first, void* object) {
+        core::v7::optional<content_of<value_type>> value;
+        const auto make = [&]<std::size_t index, std::size_t... inner>()->auto& {
+            value.emplace(std::in_place_index<index>, std::in_place_index<inner>...);
+            return alternative_in<index, inner...>(*value);
+        };
+        const taken result = alternatives::read(in, parent, first, make);
+        if (result.stored) {
+            if constexpr (is_optional<value_type>) {
+                (static_cast<Class*>(object)->*Set)(value);
+            } else {
+                (static_cast<Class*>(object)->*Set)(*value);
+            }
+        }
+        return result;
+    }
+
+    static void write(writer& out, const void* object) {
+        const value_type value = (static_cast<const Class*>(object)->*Get)();
+        if (const auto* const content = content_in(&value)) {
+            alternatives::write(out, *content);
+        }
+    }
+};
+
+template <class Class, characters Name, class... List>
+struct action<Class, word::sorted_by_content<Name, List...>> : named_word<Name> {
+    static constexpr bool plain = false;
+    template <class Each> using item_of = content_of<typename Each::value_type>;
+
+    static taken read(reader& in, const node& parent, const node& first, void* object) {
+        // the elements of each list, and behind them those of none
+        constexpr std::array known{&table_of<map_of<item_of<List>>>()...};
+        std::array<std::vector<const node*>, known.size() + 1> sorted;
+        std::vector<const node*> all;
+        for (const node& child : children(parent)) {
+            if (child.name == first.name) {
+                std::size_t kind = 0;
+                while (kind < known.size() && !known[kind]->knows_content_of(child)) {
+                    ++kind;
+                }
+                sorted[kind].push_back(&child);
+                all.push_back(&child);
+            }
+        }
+        std::size_t kind = 0;
+        (read_list<List>(in, sorted[kind++], *static_cast<Class*>(object)), ...);
+        for (const node* const element : sorted.back()) {
+            in.tell_no_field(*element);
+        }
+        std::size_t place = 0;
+        for (kind = 0; kind < known.size(); ++kind) {
+            for (const node* const element : sorted[kind]) {
+                if (all[place++] != element) {
+                    in.tell_renumbered(*element, place);
+                }
+            }
+        }
+        return {true, true};
+    }
+
+    static void write(writer& out, const void* object) {
+        (held<typename List::value_type>::write(
+             out, name_of<Name>, (static_cast<const Class*>(object)->*List::get)(), {}),
+         ...);
+    }
+
+private:
+    template <class Each>
+    static void read_list(reader& in, const std::vector<const node*>& elements, Class& object) {
+        std::vector<item_of<Each>> items;
+        items.reserve(elements.size());
+        for (const node* const element : elements) {
+            in.read_item(table_of<map_of<item_of<Each>>>(), *element, &items.emplace_back(), {}, 0);
+        }
+        if (!items.empty()) {
+            (object.*Each::set)(items);
+        }
+    }
+};
+
+template <class Class, auto Condition, class Entry>
+struct action<Class, word::only_if<Condition, Entry>> : action<Class, Entry> {};
 
 template <class Class, class Entry>
-void write_entry(node& parent, const Class& object, const again<Entry>& entry) {
-    write_entry(parent, object, entry.entry);
-}
+struct action<Class, word::again<Entry>> : action<Class, Entry> {};
 
-template <class Class, class Condition, class Entry>
-void write_entry(node& parent, const Class& object, const only_if<Condition, Entry>& entry) {
-    if (entry.condition(object)) {
-        write_entry(parent, object, entry.entry);
+template <class Class, characters Name, auto Member, auto Derive>
+struct action<Class, word::outside<Name, Member, Derive>> : named_word<Name> {
+    static constexpr bool plain = true;
+
+    static taken read(reader& in, const node&, const node& first, void*) {
+        return {in.read_single(first, {}, in.outside().*Member)};
     }
+
+    static void write(writer& out, const void* object) {
+        std::string text = out.outside().*Member;
+        if constexpr (Derive != nullptr) {
+            text = text.empty() ? Derive(*static_cast<const Class*>(object)) : text;
+        }
+        out.write_single(name_of<Name>, {}, text);
+    }
+};
+
+/// Fills a table; without places to fill, it counts.
+template <class Class> struct table_filler {
+    table_name* names = nullptr;
+    table_entry* list = nullptr;
+    std::string_view* fields = nullptr; // the getters of the entries
+    std::size_t name_count = 0;
+    std::size_t entry_count = 0;
+
+    template <class... Entry> constexpr void add_all(entries<Entry...>) { (add<Entry>(), ...); }
+
+    /// `beside` is the first of the entries that leave it no room, if there are any.
+    template <class Entry> constexpr void add(std::size_t beside = table::none) {
+        if constexpr (
+            requires { typename Entry::inner; } && !requires { Entry::name; }) {
+            add_exclusive(typename Entry::inner());
+        } else if constexpr (requires { action<Class, Entry>::plain; }) {
+            const std::string_view own_field = field_of<Entry>();
+            if (list != nullptr) {
+                fields[entry_count] = own_field;
+                for (std::size_t index = 0; !own_field.empty() && index < entry_count; ++index) {
+                    beside = fields[index] == own_field ? index : beside;
+                }
+                list[entry_count] = {&action<Class, Entry>::read, &action<Class, Entry>::write,
+                                     stands<Entry>(), beside == table::none ? entry_count : beside,
+                                     action<Class, Entry>::plain};
+            }
+            action<Class, Entry>::names([&](const element_name& name) {
+                if (names != nullptr) {
+                    names[name_count] = {name, entry_count};
+                }
+                ++name_count;
+            });
+            ++entry_count;
+        } else {
+            static_assert(
+                requires { typename Entry::value_type; },
+                "a word of the map that the engine does not know");
+        }
+    }
+
+private:
+    template <class... Entry> constexpr void add_exclusive(entries<Entry...>) {
+        const std::size_t first = entry_count;
+        (add<Entry>(first), ...);
+    }
+
+    /// The getter of the field that an entry has, or has again.
+    template <class Entry> static constexpr std::string_view field_of() {
+        if constexpr (requires { Entry::getter_name; }) {
+            return Entry::getter_name;
+        } else if constexpr (
+            requires { typename Entry::entry; } && !requires { Entry::condition; }) {
+            return field_of<typename Entry::entry>();
+        } else {
+            return {};
+        }
+    }
+
+    template <class Entry> static constexpr bool (*stands())(const void*) {
+        if constexpr (requires { Entry::condition; }) {
+            return [](const void* object) {
+                return Entry::condition(*static_cast<const Class*>(object));
+            };
+        } else {
+            return nullptr;
+        }
+    }
+};
+
+template <class Class, class Entries> struct tables {
+private:
+    static constexpr auto counted = [] {
+        table_filler<Class> filler;
+        filler.add_all(Entries());
+        return filler;
+    }();
+    static_assert(counted.entry_count <= 64, "more entries than a frame has bits");
+
+    struct filled_table {
+        std::array<table_name, counted.name_count> names;
+        std::array<table_entry, counted.entry_count> list;
+    };
+    static constexpr filled_table filled = [] {
+        filled_table result{};
+        std::array<std::string_view, counted.entry_count> fields{};
+        table_filler<Class> filler{result.names.data(), result.list.data(), fields.data()};
+        filler.add_all(Entries());
+        return result;
+    }();
+
+    template <class Is> static constexpr std::uint64_t bits_of(Is is) {
+        std::uint64_t bits = 0;
+        for (std::size_t index = 0; index < filled.list.size(); ++index) {
+            bits |= std::uint64_t{is(filled.list[index])} << index;
+        }
+        return bits;
+    }
+
+public:
+    static constexpr table whole{
+        filled.names, filled.list, bits_of([](const table_entry& entry) { return entry.plain; }),
+        bits_of([](const table_entry& entry) { return entry.stands != nullptr; })};
+};
+
+/// The element of a group alone, with what its map writes in it.
+template <group Class> tree write_fields(std::string_view name, const Class& object) {
+    tree result;
+    const outside_texts outside;
+    result.open(element_name(result.keep(name)));
+    writer(result, outside).write_whole(table_of<map_of<Class>>(), &object);
+    result.close();
+    return result;
 }
 
-template <class Class>
-void write_fields(node& parent, const Class& object, std::string_view without) {
-    std::apply(
-        [&](const auto&... entry) {
-            ((!without.empty() && name_of(entry) == without ? void()
-                                                            : write_entry(parent, object, entry)),
-             ...);
-        },
-        fields<Class>);
+/// Reads what is in the element of a group alone.
+template <group Class> report read_fields(const node& element, Class& object) {
+    report result;
+    outside_texts outside;
+    reader(element, outside, result).read_whole(table_of<map_of<Class>>(), element, &object);
+    return result;
 }
 
 } // namespace kivo::erp::v12::layout

@@ -37,18 +37,19 @@ using fiscal::tributacao_ipi_calculo_valor;
 using fiscal::tributacao_pis_cofins;
 using fiscal::tributos_devolvidos;
 
-template <>
-inline constexpr auto fields<tributacao_ipi_calculo_aliquota> = std::tuple{
-    field{"vBC", &tributacao_ipi_calculo_aliquota::get_valor_bc_ipi,
-          &tributacao_ipi_calculo_aliquota::set_valor_bc_ipi},
-    field{"pIPI", &tributacao_ipi_calculo_aliquota::get_aliquota_ipi,
-          &tributacao_ipi_calculo_aliquota::set_aliquota_ipi},
+template <> struct map_of<tributacao_ipi_calculo_aliquota> {
+    using c = tributacao_ipi_calculo_aliquota;
+    static constexpr entries fields{
+        field<"vBC", &c::get_valor_bc_ipi, &c::set_valor_bc_ipi>,
+        field<"pIPI", &c::get_aliquota_ipi, &c::set_aliquota_ipi>,
+    };
 };
 
-template <>
-inline constexpr auto fields<tributacao_ipi_calculo_valor> = std::tuple{
-    field{"vUnid", &tributacao_ipi_calculo_valor::get_valor_unidade_tributavel,
-          &tributacao_ipi_calculo_valor::set_valor_unidade_tributavel},
+template <> struct map_of<tributacao_ipi_calculo_valor> {
+    using c = tributacao_ipi_calculo_valor;
+    static constexpr entries fields{
+        field<"vUnid", &c::get_valor_unidade_tributavel, &c::set_valor_unidade_tributavel>,
+    };
 };
 
 /// The situation code decides between IPITrib and IPINT.
@@ -61,139 +62,139 @@ inline bool stands_in_ipi_trib(const tributacao_ipi& ipi) {
 
 inline bool stands_in_ipi_nt(const tributacao_ipi& ipi) { return !stands_in_ipi_trib(ipi); }
 
-template <>
-inline constexpr auto fields<tributacao_ipi> = std::tuple{
-    no_element{&tributacao_ipi::get_classe_enquadramento_ipi_cigarros_bebidas,
-               &tributacao_ipi::set_classe_enquadramento_ipi_cigarros_bebidas},
-    no_element{&tributacao_ipi::get_classe_enquadramento_ipi,
-               &tributacao_ipi::set_classe_enquadramento_ipi},
-    field{"CNPJProd", &tributacao_ipi::get_cnpj_produtor, &tributacao_ipi::set_cnpj_produtor},
-    field{"cSelo", &tributacao_ipi::get_codigo_selo_controle_ipi,
-          &tributacao_ipi::set_codigo_selo_controle_ipi},
-    field{"qSelo", &tributacao_ipi::get_quantidade_selo_controle,
-          &tributacao_ipi::set_quantidade_selo_controle, or_absent},
-    field{"cEnq", &tributacao_ipi::get_codigo_enquadramento_ipi,
-          &tributacao_ipi::set_codigo_enquadramento_ipi, digits(3)},
-    only_if{
-        &stands_in_ipi_trib,
-        element{"IPITrib",
-                field{"CST", &tributacao_ipi::get_cst_ipi, &tributacao_ipi::set_cst_ipi, digits(2)},
-                embedded{&tributacao_ipi::get_tributacao_ipi_calculo_aliquota,
-                         &tributacao_ipi::set_tributacao_ipi_calculo_aliquota},
-                embedded{&tributacao_ipi::get_tributacao_ipi_calculo_valor,
-                         &tributacao_ipi::set_tributacao_ipi_calculo_valor},
-                field{"vIPI", &tributacao_ipi::get_valor_ipi, &tributacao_ipi::set_valor_ipi}}},
-    only_if{&stands_in_ipi_nt,
-            element{"IPINT", again{field{"CST", &tributacao_ipi::get_cst_ipi,
-                                         &tributacao_ipi::set_cst_ipi, digits(2)}}}},
+template <> struct map_of<tributacao_ipi> {
+    using c = tributacao_ipi;
+    static constexpr entries fields{
+        no_element<&c::get_classe_enquadramento_ipi_cigarros_bebidas,
+                   &c::set_classe_enquadramento_ipi_cigarros_bebidas>,
+        no_element<&c::get_classe_enquadramento_ipi, &c::set_classe_enquadramento_ipi>,
+        field<"CNPJProd", &c::get_cnpj_produtor, &c::set_cnpj_produtor>,
+        field<"cSelo", &c::get_codigo_selo_controle_ipi, &c::set_codigo_selo_controle_ipi>,
+        field<"qSelo", &c::get_quantidade_selo_controle, &c::set_quantidade_selo_controle,
+              omit_default>,
+        field<"cEnq", &c::get_codigo_enquadramento_ipi, &c::set_codigo_enquadramento_ipi,
+              digits(3)>,
+        exclusive(entries{
+            only_if<&stands_in_ipi_trib>(element<"IPITrib">(entries{
+                field<"CST", &c::get_cst_ipi, &c::set_cst_ipi, digits(2)>,
+                embedded<&c::get_tributacao_ipi_calculo_aliquota,
+                         &c::set_tributacao_ipi_calculo_aliquota>,
+                embedded<&c::get_tributacao_ipi_calculo_valor,
+                         &c::set_tributacao_ipi_calculo_valor>,
+                field<"vIPI", &c::get_valor_ipi, &c::set_valor_ipi>,
+            })),
+            only_if<&stands_in_ipi_nt>(element<"IPINT">(entries{
+                again(field<"CST", &c::get_cst_ipi, &c::set_cst_ipi, digits(2)>),
+            })),
+        }),
+    };
 };
 
-template <>
-inline constexpr auto fields<ipi_devolvido> = std::tuple{
-    field{"vIPIDevol", &ipi_devolvido::get_valor, &ipi_devolvido::set_valor},
+template <> struct map_of<ipi_devolvido> {
+    using c = ipi_devolvido;
+    static constexpr entries fields{
+        field<"vIPIDevol", &c::get_valor, &c::set_valor>,
+    };
 };
 
-template <>
-inline constexpr auto fields<tributos_devolvidos> = std::tuple{
-    field{"pDevol", &tributos_devolvidos::get_percentual, &tributos_devolvidos::set_percentual},
-    field{"IPI", &tributos_devolvidos::get_ipi, &tributos_devolvidos::set_ipi},
+template <> struct map_of<tributos_devolvidos> {
+    using c = tributos_devolvidos;
+    static constexpr entries fields{
+        field<"pDevol", &c::get_percentual, &c::set_percentual>,
+        field<"IPI", &c::get_ipi, &c::set_ipi>,
+    };
 };
 
-template <>
-inline constexpr auto fields<tributacao_imposto_importacao> = std::tuple{
-    field{"vBC", &tributacao_imposto_importacao::get_valor_bc_imposto_importacao,
-          &tributacao_imposto_importacao::set_valor_bc_imposto_importacao},
-    field{"vDespAdu", &tributacao_imposto_importacao::get_valor_despesas_aduaneiras,
-          &tributacao_imposto_importacao::set_valor_despesas_aduaneiras},
-    field{"vII", &tributacao_imposto_importacao::get_valor_imposto_importacao,
-          &tributacao_imposto_importacao::set_valor_imposto_importacao},
-    field{"vIOF", &tributacao_imposto_importacao::get_valor_imposto_operacoes_financeiras,
-          &tributacao_imposto_importacao::set_valor_imposto_operacoes_financeiras},
+template <> struct map_of<tributacao_imposto_importacao> {
+    using c = tributacao_imposto_importacao;
+    static constexpr entries fields{
+        field<"vBC", &c::get_valor_bc_imposto_importacao, &c::set_valor_bc_imposto_importacao>,
+        field<"vDespAdu", &c::get_valor_despesas_aduaneiras, &c::set_valor_despesas_aduaneiras>,
+        field<"vII", &c::get_valor_imposto_importacao, &c::set_valor_imposto_importacao>,
+        field<"vIOF", &c::get_valor_imposto_operacoes_financeiras,
+              &c::set_valor_imposto_operacoes_financeiras>,
+    };
 };
 
-template <>
-inline constexpr auto fields<issqn> = std::tuple{
-    field{"vBC", &issqn::get_valor_bc, &issqn::set_valor_bc},
-    field{"vAliq", &issqn::get_valor_aliquota, &issqn::set_valor_aliquota},
-    field{"vISSQN", &issqn::get_valor_issqn, &issqn::set_valor_issqn},
-    field{"cMunFG", &issqn::get_codigo_municio_de_ocorrencia,
-          &issqn::set_codigo_municio_de_ocorrencia, digits(7)},
-    field{"cListServ", &issqn::get_item_lista_servicos, &issqn::set_item_list_servicos},
-    field{"vDeducao", &issqn::get_valor_deducao, &issqn::set_valor_deducao},
-    field{"vOutro", &issqn::get_valor_outras_retencoes, &issqn::set_valor_outras_retencoes},
-    field{"vDescIncond", &issqn::get_valor_desconto_incondicionado,
-          &issqn::set_valor_desconto_incondicionado},
-    field{"vDescCond", &issqn::get_valor_desconto_condicionado,
-          &issqn::set_valor_desconto_condicionado},
-    field{"vISSRet", &issqn::get_valor_retencao_iss, &issqn::set_valor_retencao_iss},
-    field{"indISS", &issqn::get_indicador_iss, &issqn::set_indicador_iss, digits(1).or_absent()},
-    field{"cServico", &issqn::get_codigo_servico, &issqn::set_codigo_servico},
-    field{"cMun", &issqn::get_codigo_municipio_incidencia, &issqn::set_codigo_municipio_incidencia,
-          digits(7)},
-    field{"cPais", &issqn::get_codigo_pais, &issqn::set_codigo_pais},
-    field{"nProcesso", &issqn::get_numero_processo, &issqn::set_numero_processo},
-    field{"indIncentivo", &issqn::get_indicador_incentivo, &issqn::set_indicador_incentivo,
-          digits(1).or_absent()},
+template <> struct map_of<issqn> {
+    using c = issqn;
+    static constexpr entries fields{
+        field<"vBC", &c::get_valor_bc, &c::set_valor_bc>,
+        field<"vAliq", &c::get_valor_aliquota, &c::set_valor_aliquota>,
+        field<"vISSQN", &c::get_valor_issqn, &c::set_valor_issqn>,
+        field<"cMunFG", &c::get_codigo_municio_de_ocorrencia, &c::set_codigo_municio_de_ocorrencia,
+              digits(7)>,
+        field<"cListServ", &c::get_item_lista_servicos, &c::set_item_list_servicos>,
+        field<"vDeducao", &c::get_valor_deducao, &c::set_valor_deducao>,
+        field<"vOutro", &c::get_valor_outras_retencoes, &c::set_valor_outras_retencoes>,
+        field<"vDescIncond", &c::get_valor_desconto_incondicionado,
+              &c::set_valor_desconto_incondicionado>,
+        field<"vDescCond", &c::get_valor_desconto_condicionado,
+              &c::set_valor_desconto_condicionado>,
+        field<"vISSRet", &c::get_valor_retencao_iss, &c::set_valor_retencao_iss>,
+        field<"indISS", &c::get_indicador_iss, &c::set_indicador_iss, digits(1) | omit_default>,
+        field<"cServico", &c::get_codigo_servico, &c::set_codigo_servico>,
+        field<"cMun", &c::get_codigo_municipio_incidencia, &c::set_codigo_municipio_incidencia,
+              digits(7)>,
+        field<"cPais", &c::get_codigo_pais, &c::set_codigo_pais>,
+        field<"nProcesso", &c::get_numero_processo, &c::set_numero_processo>,
+        field<"indIncentivo", &c::get_indicador_incentivo, &c::set_indicador_incentivo,
+              digits(1) | omit_default>,
+    };
 };
 
-template <>
-inline constexpr auto fields<grupo_tributacao_pis_aliquota> = std::tuple{
-    field{"CST", &grupo_tributacao_pis_aliquota::get_cst_pis,
-          &grupo_tributacao_pis_aliquota::set_cst_pis, digits(2).or_absent()},
-    field{"vBC", &grupo_tributacao_pis_aliquota::get_valor_bc_pis,
-          &grupo_tributacao_pis_aliquota::set_valor_bc_pis},
-    field{"pPIS", &grupo_tributacao_pis_aliquota::get_percentual_aliquota_pis,
-          &grupo_tributacao_pis_aliquota::set_percentual_aliquota_pis},
-    field{"vPIS", &grupo_tributacao_pis_aliquota::get_valor_pis,
-          &grupo_tributacao_pis_aliquota::set_valor_pis},
+template <> struct map_of<grupo_tributacao_pis_aliquota> {
+    using c = grupo_tributacao_pis_aliquota;
+    static constexpr entries fields{
+        field<"CST", &c::get_cst_pis, &c::set_cst_pis, digits(2) | omit_default>,
+        field<"vBC", &c::get_valor_bc_pis, &c::set_valor_bc_pis>,
+        field<"pPIS", &c::get_percentual_aliquota_pis, &c::set_percentual_aliquota_pis>,
+        field<"vPIS", &c::get_valor_pis, &c::set_valor_pis>,
+    };
 };
 
-template <>
-inline constexpr auto fields<grupo_tributacao_pis_nt> = std::tuple{
-    field{"CST", &grupo_tributacao_pis_nt::get_cst_pis, &grupo_tributacao_pis_nt::set_cst_pis,
-          digits(2).or_absent()},
+template <> struct map_of<grupo_tributacao_pis_nt> {
+    using c = grupo_tributacao_pis_nt;
+    static constexpr entries fields{
+        field<"CST", &c::get_cst_pis, &c::set_cst_pis, digits(2) | omit_default>,
+    };
 };
 
-template <>
-inline constexpr auto fields<grupo_tributacao_pis_outros> = std::tuple{
-    field{"CST", &grupo_tributacao_pis_outros::get_cst_pis,
-          &grupo_tributacao_pis_outros::set_cst_pis, digits(2).or_absent()},
-    field{"vBC", &grupo_tributacao_pis_outros::get_valor_bc_pis,
-          &grupo_tributacao_pis_outros::set_valor_bc_pis},
-    field{"pPIS", &grupo_tributacao_pis_outros::get_percentual_aliquota_pis,
-          &grupo_tributacao_pis_outros::set_percentual_aliquota_pis},
-    field{"vPIS", &grupo_tributacao_pis_outros::get_valor_pis,
-          &grupo_tributacao_pis_outros::set_valor_pis},
+template <> struct map_of<grupo_tributacao_pis_outros> {
+    using c = grupo_tributacao_pis_outros;
+    static constexpr entries fields{
+        field<"CST", &c::get_cst_pis, &c::set_cst_pis, digits(2) | omit_default>,
+        field<"vBC", &c::get_valor_bc_pis, &c::set_valor_bc_pis>,
+        field<"pPIS", &c::get_percentual_aliquota_pis, &c::set_percentual_aliquota_pis>,
+        field<"vPIS", &c::get_valor_pis, &c::set_valor_pis>,
+    };
 };
 
-template <>
-inline constexpr auto fields<grupo_tributacao_cofins_aliquota> = std::tuple{
-    field{"CST", &grupo_tributacao_cofins_aliquota::get_cst_cofins,
-          &grupo_tributacao_cofins_aliquota::set_cst_cofins, digits(2).or_absent()},
-    field{"vBC", &grupo_tributacao_cofins_aliquota::get_valor_bc_cofins,
-          &grupo_tributacao_cofins_aliquota::set_valor_bc_cofins},
-    field{"pCOFINS", &grupo_tributacao_cofins_aliquota::get_percentual_aliquota_cofins,
-          &grupo_tributacao_cofins_aliquota::set_percentual_aliquota_cofins},
-    field{"vCOFINS", &grupo_tributacao_cofins_aliquota::get_valor_cofins,
-          &grupo_tributacao_cofins_aliquota::set_valor_cofins},
+template <> struct map_of<grupo_tributacao_cofins_aliquota> {
+    using c = grupo_tributacao_cofins_aliquota;
+    static constexpr entries fields{
+        field<"CST", &c::get_cst_cofins, &c::set_cst_cofins, digits(2) | omit_default>,
+        field<"vBC", &c::get_valor_bc_cofins, &c::set_valor_bc_cofins>,
+        field<"pCOFINS", &c::get_percentual_aliquota_cofins, &c::set_percentual_aliquota_cofins>,
+        field<"vCOFINS", &c::get_valor_cofins, &c::set_valor_cofins>,
+    };
 };
 
-template <>
-inline constexpr auto fields<grupo_tributacao_cofins_nt> = std::tuple{
-    field{"CST", &grupo_tributacao_cofins_nt::get_cst_cofins,
-          &grupo_tributacao_cofins_nt::set_cst_cofins, digits(2).or_absent()},
+template <> struct map_of<grupo_tributacao_cofins_nt> {
+    using c = grupo_tributacao_cofins_nt;
+    static constexpr entries fields{
+        field<"CST", &c::get_cst_cofins, &c::set_cst_cofins, digits(2) | omit_default>,
+    };
 };
 
-template <>
-inline constexpr auto fields<grupo_tributacao_cofins_outros> = std::tuple{
-    field{"CST", &grupo_tributacao_cofins_outros::get_cst_cofins,
-          &grupo_tributacao_cofins_outros::set_cst_cofins, digits(2).or_absent()},
-    field{"vBC", &grupo_tributacao_cofins_outros::get_valor_bc_cofins,
-          &grupo_tributacao_cofins_outros::set_valor_bc_cofins},
-    field{"pCOFINS", &grupo_tributacao_cofins_outros::get_percentual_aliquota_cofins,
-          &grupo_tributacao_cofins_outros::set_percentual_aliquota_cofins},
-    field{"vCOFINS", &grupo_tributacao_cofins_outros::get_valor_cofins,
-          &grupo_tributacao_cofins_outros::set_valor_cofins},
+template <> struct map_of<grupo_tributacao_cofins_outros> {
+    using c = grupo_tributacao_cofins_outros;
+    static constexpr entries fields{
+        field<"CST", &c::get_cst_cofins, &c::set_cst_cofins, digits(2) | omit_default>,
+        field<"vBC", &c::get_valor_bc_cofins, &c::set_valor_bc_cofins>,
+        field<"pCOFINS", &c::get_percentual_aliquota_cofins, &c::set_percentual_aliquota_cofins>,
+        field<"vCOFINS", &c::get_valor_cofins, &c::set_valor_cofins>,
+    };
 };
 
 /// Either contribution may be missing from an invoice, but the object holds both: a rate group at
@@ -216,15 +217,18 @@ inline bool has_cofins(const tributacao_pis_cofins& taxes) {
            rate->get_valor_cofins() != fiscal::decimal();
 }
 
-template <>
-inline constexpr auto fields<tributacao_pis_cofins> = std::tuple{
-    only_if{&has_pis, element{"PIS", one_of{&tributacao_pis_cofins::get_grupo_tributacao_pis,
-                                            &tributacao_pis_cofins::set_grupo_tributacao_pis,
-                                            "PISAliq", "PISNT", "PISOutr"}}},
-    only_if{&has_cofins,
-            element{"COFINS", one_of{&tributacao_pis_cofins::get_grupo_tributacao_cofins,
-                                     &tributacao_pis_cofins::set_grupo_tributacao_cofins,
-                                     "COFINSAliq", "COFINSNT", "COFINSOutr"}}},
+template <> struct map_of<tributacao_pis_cofins> {
+    using c = tributacao_pis_cofins;
+    static constexpr entries fields{
+        only_if<&has_pis>(element<"PIS">(entries{
+            one_of<&c::get_grupo_tributacao_pis, &c::set_grupo_tributacao_pis, as<"PISAliq">,
+                   as<"PISNT">, as<"PISOutr">>,
+        })),
+        only_if<&has_cofins>(element<"COFINS">(entries{
+            one_of<&c::get_grupo_tributacao_cofins, &c::set_grupo_tributacao_cofins,
+                   as<"COFINSAliq">, as<"COFINSNT">, as<"COFINSOutr">>,
+        })),
+    };
 };
 
 } // namespace kivo::erp::v12::layout

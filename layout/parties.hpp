@@ -14,55 +14,66 @@ using fiscal::emitente;
 using fiscal::endereco;
 using fiscal::local_entrega;
 
-template <>
-inline constexpr auto fields<endereco> = std::tuple{
-    field{"xLgr", &endereco::get_logradouro, &endereco::set_logradouro},
-    field{"nro", &endereco::get_numero_endereco, &endereco::set_numero_endereco},
-    field{"xCpl", &endereco::get_complemento, &endereco::set_complemento},
-    field{"xBairro", &endereco::get_bairro, &endereco::set_bairro},
-    field{"cMun", &endereco::get_ibge_municipio, &endereco::set_ibge_municipio, digits(7)},
-    field{"xMun", &endereco::get_nome_municipio, &endereco::set_nome_municipio},
-    field{"UF", &endereco::get_uf, &endereco::set_uf},
-    field{"CEP", &endereco::get_cep, &endereco::set_cep, digits(8)},
-    field{"cPais", &endereco::get_ibge_pais, &endereco::set_ibge_pais},
-    field{"xPais", &endereco::get_pais, &endereco::set_pais},
+template <> struct map_of<endereco> {
+    using c = endereco;
+    static constexpr entries fields{
+        field<"xLgr", &c::get_logradouro, &c::set_logradouro>,
+        field<"nro", &c::get_numero_endereco, &c::set_numero_endereco>,
+        field<"xCpl", &c::get_complemento, &c::set_complemento>,
+        field<"xBairro", &c::get_bairro, &c::set_bairro>,
+        field<"cMun", &c::get_ibge_municipio, &c::set_ibge_municipio, digits(7)>,
+        field<"xMun", &c::get_nome_municipio, &c::set_nome_municipio>,
+        field<"UF", &c::get_uf, &c::set_uf>,
+        field<"CEP", &c::get_cep, &c::set_cep, digits(8)>,
+        field<"cPais", &c::get_ibge_pais, &c::set_ibge_pais>,
+        field<"xPais", &c::get_pais, &c::set_pais>,
+    };
 };
 
-template <>
-inline constexpr auto fields<emitente> = std::tuple{
-    field{"CNPJ", &emitente::get_cnpj, &emitente::set_cnpj},
-    field{"xNome", &emitente::get_razao_social, &emitente::set_razao_social},
-    field{"xFant", &emitente::get_nome_fantasia, &emitente::set_nome_fantasia},
-    element{"enderEmit", embedded{&emitente::get_endereco, &emitente::set_endereco},
-            field{"fone", &emitente::get_telefone, &emitente::set_telefone}},
-    field{"IE", &emitente::get_ie, &emitente::set_ie},
-    field{"IEST", &emitente::get_iest, &emitente::set_iest},
-    field{"IM", &emitente::get_inscricao_municipal, &emitente::set_inscricao_municipal},
-    field{"CNAE", &emitente::get_cnae, &emitente::set_cnae, digits(7)},
-    field{"CRT", &emitente::get_regime_fiscal, &emitente::set_regime_fiscal, digits(1).or_absent()},
+template <> struct map_of<emitente> {
+    using c = emitente;
+    static constexpr entries fields{
+        field<"CNPJ", &c::get_cnpj, &c::set_cnpj>,
+        field<"xNome", &c::get_razao_social, &c::set_razao_social>,
+        field<"xFant", &c::get_nome_fantasia, &c::set_nome_fantasia>,
+        element<"enderEmit">(entries{
+            embedded<&c::get_endereco, &c::set_endereco>,
+            field<"fone", &c::get_telefone, &c::set_telefone>,
+        }),
+        field<"IE", &c::get_ie, &c::set_ie>,
+        field<"IEST", &c::get_iest, &c::set_iest>,
+        field<"IM", &c::get_inscricao_municipal, &c::set_inscricao_municipal>,
+        field<"CNAE", &c::get_cnae, &c::set_cnae, digits(7)>,
+        field<"CRT", &c::get_regime_fiscal, &c::set_regime_fiscal, digits(1) | omit_default>,
+    };
 };
 
-template <>
-inline constexpr auto fields<destinatario> = std::tuple{
-    field{"CNPJ", &destinatario::get_cnpj, &destinatario::set_cnpj},
-    field{"CPF", &destinatario::get_cpf, &destinatario::set_cpf},
-    field{"idEstrangeiro", &destinatario::get_indicador_estrangeiro,
-          &destinatario::set_indicador_estrangeiro},
-    field{"xNome", &destinatario::get_razao_social, &destinatario::set_razao_social},
-    element{"enderDest", embedded{&destinatario::get_endereco, &destinatario::set_endereco},
-            field{"fone", &destinatario::get_telefone, &destinatario::set_telefone}},
-    field{"indIEDest", &destinatario::get_indicador_de_ie, &destinatario::set_indicador_de_ie,
-          digits(1).or_absent()},
-    field{"IE", &destinatario::get_ie, &destinatario::set_ie},
-    field{"ISUF", &destinatario::get_inscricao_suframa, &destinatario::set_inscricao_suframa},
-    field{"email", &destinatario::get_email, &destinatario::set_email},
+template <> struct map_of<destinatario> {
+    using c = destinatario;
+    static constexpr entries fields{
+        field<"CNPJ", &c::get_cnpj, &c::set_cnpj>,
+        field<"CPF", &c::get_cpf, &c::set_cpf>,
+        field<"idEstrangeiro", &c::get_indicador_estrangeiro, &c::set_indicador_estrangeiro>,
+        field<"xNome", &c::get_razao_social, &c::set_razao_social>,
+        element<"enderDest">(entries{
+            embedded<&c::get_endereco, &c::set_endereco>,
+            field<"fone", &c::get_telefone, &c::set_telefone>,
+        }),
+        field<"indIEDest", &c::get_indicador_de_ie, &c::set_indicador_de_ie,
+              digits(1) | omit_default>,
+        field<"IE", &c::get_ie, &c::set_ie>,
+        field<"ISUF", &c::get_inscricao_suframa, &c::set_inscricao_suframa>,
+        field<"email", &c::get_email, &c::set_email>,
+    };
 };
 
-template <>
-inline constexpr auto fields<local_entrega> = std::tuple{
-    field{"CNPJ", &local_entrega::get_cnpj, &local_entrega::set_cnpj},
-    field{"CPF", &local_entrega::get_cpf, &local_entrega::set_cpf},
-    embedded{&local_entrega::get_endereco, &local_entrega::set_endereco},
+template <> struct map_of<local_entrega> {
+    using c = local_entrega;
+    static constexpr entries fields{
+        field<"CNPJ", &c::get_cnpj, &c::set_cnpj, even_empty>,
+        field<"CPF", &c::get_cpf, &c::set_cpf>,
+        embedded<&c::get_endereco, &c::set_endereco>,
+    };
 };
 
 } // namespace kivo::erp::v12::layout

@@ -4,24 +4,38 @@
 
 namespace kivo::erp::v12::layout {
 
-std::string number_text(std::uint64_t number, const form& how) {
-    char chars[64];
-    const auto written = std::to_chars(chars, chars + sizeof chars, number, how.base);
-    std::string digits(chars, written.ptr);
-    for (char& digit : digits) {
-        digit = static_cast<char>(digit >= 'a' ? digit - 'a' + 'A' : digit);
+bool value_chars::put_number(std::uint64_t number, const form& how) {
+    if (number == 0 && how.even_empty) {
+        return show("");
     }
-    const std::size_t width = digits.size() <= how.width ? how.width : how.wide_width;
-    if (digits.size() < width) {
-        digits.insert(0, width - digits.size(), '0');
+    char* begin = chars_ + sizeof chars_;
+    char* const end = begin;
+    for (const auto base = static_cast<unsigned>(how.base); begin == end || number != 0;
+         number /= base) {
+        *--begin = "0123456789ABCDEF"[number % base];
     }
-    return digits;
+    const auto written = static_cast<unsigned>(end - begin);
+    for (unsigned width = written <= how.width ? how.width : how.wide_width; width > written;
+         --width) {
+        *--begin = '0';
+    }
+    return show({begin, static_cast<std::size_t>(end - begin)});
+}
+
+std::size_t value_chars::make_larger(char*& chars, std::size_t room) {
+    large_.resize(2 * room);
+    chars = large_.data();
+    return large_.size();
 }
 
 core::v7::optional<std::uint64_t> number_of(std::string_view text, std::uint64_t largest,
                                             const form& how) {
-    if (how.width != 0 && text.size() != how.width && text.size() != how.wide_width) {
+    if (how.width != 0 && text.size() != how.width && text.size() != how.wide_width &&
+        !(how.fewer && text.size() < how.width)) {
         return {};
+    }
+    if (text.empty() && how.even_empty) {
+        return 0;
     }
     std::uint64_t number = 0;
     const char* const end = text.data() + text.size();
@@ -40,10 +54,16 @@ std::string expected_number(std::uint64_t largest, const form& how) {
         return std::to_string(how.width) + " digits or letters from A to F";
     }
     if (how.width != 0) {
-        return std::to_string(how.width) + (how.width == 1 ? " digit" : " digits") +
-               (how.optional ? ", not 0" : "");
+        return (how.fewer ? "at most " : "") + std::to_string(how.width) +
+               (how.width == 1 ? " digit" : " digits") + (how.omit_default ? ", not 0" : "");
     }
     return "a whole number up to " + std::to_string(largest);
+}
+
+std::string expected_identifier(std::string_view name, std::string_view text) {
+    const bool repeated = !text.empty() && text.find_first_not_of(text.front()) == text.npos;
+    return "a " + std::string(name) +
+           (repeated ? "; those of one repeated digit are not issued" : " with their check digits");
 }
 
 } // namespace kivo::erp::v12::layout

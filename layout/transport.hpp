@@ -14,41 +14,47 @@ using fiscal::transportador;
 using fiscal::veiculo_transporte;
 using fiscal::volume;
 
-template <>
-inline constexpr auto fields<transportador> = std::tuple{
-    one_of{&transportador::get_documento, &transportador::set_documento, "CPF", "CNPJ"},
-    field{"xNome", &transportador::get_razao_social, &transportador::set_razao_social},
-    field{"IE", &transportador::get_ie, &transportador::set_ie},
-    field{"xEnder", &transportador::get_endereco, &transportador::set_endereco},
-    field{"xMun", &transportador::get_municipio, &transportador::set_municipio},
-    field{"UF", &transportador::get_uf, &transportador::set_uf},
+template <> struct map_of<transportador> {
+    using c = transportador;
+    static constexpr entries fields{
+        one_of<&c::get_documento, &c::set_documento, as<"CPF">, as<"CNPJ">>,
+        field<"xNome", &c::get_razao_social, &c::set_razao_social>,
+        field<"IE", &c::get_ie, &c::set_ie>,
+        field<"xEnder", &c::get_endereco, &c::set_endereco>,
+        field<"xMun", &c::get_municipio, &c::set_municipio>,
+        field<"UF", &c::get_uf, &c::set_uf>,
+    };
 };
 
-template <>
-inline constexpr auto fields<veiculo_transporte> = std::tuple{
-    field{"placa", &veiculo_transporte::get_placa, &veiculo_transporte::set_placa},
-    field{"UF", &veiculo_transporte::get_uf, &veiculo_transporte::set_uf, or_absent},
-    field{"RNTC", &veiculo_transporte::get_rntc, &veiculo_transporte::set_rntc},
+template <> struct map_of<veiculo_transporte> {
+    using c = veiculo_transporte;
+    static constexpr entries fields{
+        field<"placa", &c::get_placa, &c::set_placa>,
+        field<"UF", &c::get_uf, &c::set_uf, omit_default>,
+        field<"RNTC", &c::get_rntc, &c::set_rntc>,
+    };
 };
 
-template <>
-inline constexpr auto fields<volume> = std::tuple{
-    field{"qVol", &volume::get_quantidade, &volume::set_quantidade, or_absent},
-    field{"esp", &volume::get_especie, &volume::set_especie},
-    field{"marca", &volume::get_marca, &volume::set_marca},
-    field{"nVol", &volume::get_numeracao, &volume::set_numeracao},
-    field{"pesoL", &volume::get_peso_liquido, &volume::set_peso_liquido},
-    field{"pesoB", &volume::get_peso_bruto, &volume::set_peso_bruto},
+template <> struct map_of<volume> {
+    using c = volume;
+    static constexpr entries fields{
+        field<"qVol", &c::get_quantidade, &c::set_quantidade, omit_default>,
+        field<"esp", &c::get_especie, &c::set_especie>,
+        field<"marca", &c::get_marca, &c::set_marca>,
+        field<"nVol", &c::get_numeracao, &c::set_numeracao>,
+        field<"pesoL", &c::get_peso_liquido, &c::set_peso_liquido>,
+        field<"pesoB", &c::get_peso_bruto, &c::set_peso_bruto>,
+    };
 };
 
-template <>
-inline constexpr auto fields<informacoes_transporte> = std::tuple{
-    field{"modFrete", &informacoes_transporte::get_modalidade_frete,
-          &informacoes_transporte::set_modalidade_frete, digits(1)},
-    field{"transporta", &informacoes_transporte::get_transportador,
-          &informacoes_transporte::set_transportador},
-    field{"veicTransp", &informacoes_transporte::get_veiculo, &informacoes_transporte::set_veiculo},
-    field{"vol", &informacoes_transporte::get_volumes, &informacoes_transporte::set_volumes},
+template <> struct map_of<informacoes_transporte> {
+    using c = informacoes_transporte;
+    static constexpr entries fields{
+        field<"modFrete", &c::get_modalidade_frete, &c::set_modalidade_frete, digits(1)>,
+        field<"transporta", &c::get_transportador, &c::set_transportador>,
+        field<"veicTransp", &c::get_veiculo, &c::set_veiculo>,
+        field<"vol", &c::get_volumes, &c::set_volumes>,
+    };
 };
 
 } // namespace kivo::erp::v12::layout

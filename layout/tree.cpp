@@ -10,7 +10,7 @@
 
 namespace kivo::erp::v12::layout {
 
-const node* child_named(const node& parent, std::string_view name) {
+const node* child_named(const node& parent, const element_name& name) {
     for (const node& child : children(parent)) {
         if (child.name == name) {
             return &child;
@@ -19,16 +19,15 @@ const node* child_named(const node& parent, std::string_view name) {
     return nullptr;
 }
 
-void tree::open(std::string_view name, std::string_view text) {
-    const std::size_t index = nodes_.size();
-    nodes_.push_back({name, text, 1, static_cast<std::uint32_t>(index - open_)});
-    open_ = index;
-}
-
-void tree::close() {
-    node& closed = nodes_[open_];
-    closed.size = static_cast<std::uint32_t>(nodes_.size() - open_);
-    open_ -= closed.up;
+void tree::close_unless_empty() {
+    const node& closed = nodes_[open_];
+    if (nodes_.size() - open_ > 1 || !closed.text.empty()) {
+        close();
+        return;
+    }
+    const std::uint32_t up = closed.up;
+    nodes_.pop_back();
+    open_ -= up;
 }
 
 void tree::add(const node& copied) {
@@ -37,11 +36,9 @@ void tree::add(const node& copied) {
     top.up = static_cast<std::uint32_t>(nodes_.size() - copied.size - open_);
 }
 
-char* tree::place(std::size_t size) {
-    if (!texts_) {
-        texts_ = std::make_unique<std::pmr::monotonic_buffer_resource>(std::size_t{4096});
-    }
-    return static_cast<char*>(texts_->allocate(size, 1));
+void tree::make_room(std::size_t size) {
+    left_ = std::max(size, std::size_t{8192});
+    next_ = texts_.emplace_back(new char[left_]).get();
 }
 
 std::string_view tree::keep(std::string_view text) {
@@ -66,6 +63,27 @@ std::string path_teller::operator()(const node& element) {
         return {};
     }
     const node& parent = *(&element - element.up);
+    std::string path = (*this)(parent);
+    path += path.empty() ? "" : "/";
+    const std::uint32_t number = number_of(parent, element);
+    return path += number == 0 ? std::string(element.name) : numbered(element.name, number);
+}
+
+std::uint32_t path_teller::number_of(const node& parent, const node& element) {
+    std::uint32_t looked_at = 0;
+    std::uint32_t number = 0;
+    std::uint32_t total = 0;
+    for (const node& child : children(parent)) {
+        if (++looked_at > few) {
+            return known_number_of(parent, element);
+        }
+        total += child.name == element.name ? 1 : 0;
+        number = &child == &element ? total : number;
+    }
+    return total > 1 ? number : 0;
+}
+
+std::uint32_t path_teller::known_number_of(const node& parent, const node& element) {
     if (counted_.insert(&parent).second) {
         std::unordered_map<std::string_view, std::uint32_t> total;
         for (const node& child : children(parent)) {
@@ -74,15 +92,12 @@ std::string path_teller::operator()(const node& element) {
         std::unordered_map<std::string_view, std::uint32_t> met;
         for (const node& child : children(parent)) {
             if (total[child.name] > 1) {
-                number_of_[&child] = ++met[child.name];
+                numbers_[&child] = ++met[child.name];
             }
         }
     }
-    std::string path = (*this)(parent);
-    path += path.empty() ? "" : "/";
-    const auto number = number_of_.find(&element);
-    return path += number == number_of_.end() ? std::string(element.name)
-                                              : numbered(element.name, number->second);
+    const auto number = numbers_.find(&element);
+    return number == numbers_.end() ? 0 : number->second;
 }
 
 std::vector<placed_text> texts_of(const node& root) {
@@ -129,7 +144,7 @@ struct growing {
     }
 
     void add_to(tree& result) const {
-        result.open(result.keep(name), result.keep(text.value_or("")));
+        result.open(std::string_view(result.keep(name)), result.keep(text.value_or("")));
         for (const bool attributes : {true, false}) {
             for (const growing& element : inner) {
                 if (element.name.starts_with('@') == attributes) {
@@ -243,7 +258,7 @@ void compare(const node* left, const node* right, const std::string& path,
                    ? core::v7::optional<std::string>(element->text)
                    : core::v7::optional<std::string>();
     };
-    if (text(left) != text(right)) {
+    if (!path.empty() && text(left) != text(right)) {
         result.push_back({path, text(left), text(right)});
     }
     for (const auto& name : paired_children(left, right).names) {

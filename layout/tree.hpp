@@ -2,24 +2,76 @@
 
 #include <base/optional.hpp>
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
+#include <iterator>
 #include <memory>
-#include <memory_resource>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 #include <unordered_set>
+#include <utility>
 #include <vector>
 
 /// Documents as trees of elements, without the objects and without XML.
 namespace kivo::erp::v12::layout {
 
+/// The name of an element. Its first characters as a number tell most names apart.
+class element_name {
+public:
+    constexpr element_name() = default;
+    constexpr element_name(std::string_view text) // NOLINT(google-explicit-constructor): is a text
+        : text_(text) {
+        for (std::size_t index = 0; index < text.size() && index < sizeof first_; ++index) {
+            add(text[index], index);
+        }
+    }
+    constexpr element_name(const char* text) // NOLINT(google-explicit-constructor): is a text
+        : element_name(std::string_view(text)) {}
+
+    /// The name that ends with a zero and has eight characters more behind it.
+    static element_name in_buffer(const char* text) {
+        element_name result;
+        result.text_ = text;
+        std::memcpy(&result.first_, text, sizeof first_);
+        if (std::endian::native == std::endian::big) {
+            return element_name(result.text_);
+        }
+        if (result.text_.size() < sizeof first_) {
+            result.first_ &= (std::uint64_t{1} << (8 * result.text_.size())) - 1;
+        }
+        return result;
+    }
+
+    constexpr std::string_view text() const { return text_; }
+    constexpr operator std::string_view() const { return text_; } // NOLINT: it is a text
+    constexpr bool is_attribute() const { return text_.starts_with('@'); }
+
+    constexpr bool operator==(const element_name& other) const { // most names have few characters
+        return first_ == other.first_ && text_.size() == other.text_.size() &&
+               (text_.size() <= sizeof first_ ||
+                text_.substr(sizeof first_) == other.text_.substr(sizeof first_));
+    }
+
+    constexpr bool operator==(std::string_view text) const { return text_ == text; }
+    constexpr bool operator==(const char* text) const { return text_ == text; }
+
+private:
+    constexpr void add(char character, std::size_t index) {
+        first_ |= std::uint64_t{static_cast<unsigned char>(character)} << (8 * index);
+    }
+
+    std::string_view text_;
+    std::uint64_t first_ = 0;
+};
+
 /// An element of a document. The elements in it follow it in memory, so an element alone is all of
 /// its content. An attribute is an element whose name begins with @, before the others of its
 /// parent.
 struct node {
-    std::string_view name;  ///< without a namespace prefix
+    element_name name;      ///< without a namespace prefix
     std::string_view text;  ///< all of it in one piece; of a group, usually empty
     std::uint32_t size = 1; ///< number of elements: this one and all in it
     std::uint32_t up = 0;   ///< how many elements before this one its parent is; 0: it has none
@@ -34,6 +86,12 @@ public:
     /// Goes from one to the next.
     class iterator {
     public:
+        using difference_type = std::ptrdiff_t;
+        using value_type = node;
+        using pointer = const node*;
+        using reference = const node&;
+        using iterator_category = std::input_iterator_tag;
+
         explicit iterator(const node* at) : at_(at) {}
         const node& operator*() const { return *at_; }
         iterator& operator++() {
@@ -60,7 +118,7 @@ private:
 };
 
 /// The first of the elements directly in another that has this name; null when there is none.
-const node* child_named(const node& parent, std::string_view name);
+const node* child_named(const node& parent, const element_name& name);
 
 /// A document. It is built from the front to the back, and owns its texts.
 class tree {
@@ -70,26 +128,53 @@ public:
 
     /// Begins an element in the one that is open, and opens it. Names and texts are not copied;
     /// see `keep`.
-    void open(std::string_view name, std::string_view text = {});
+    void open(const element_name& name, std::string_view text = {}) {
+        const std::size_t index = nodes_.size();
+        nodes_.push_back({name, text, 1, static_cast<std::uint32_t>(index - open_)});
+        open_ = index;
+    }
     /// Closes the element that was opened last.
-    void close();
+    void close() {
+        node& closed = nodes_[open_];
+        closed.size = static_cast<std::uint32_t>(nodes_.size() - open_);
+        open_ -= closed.up;
+    }
+    /// The same; an element with nothing in it is taken away.
+    void close_unless_empty();
     /// Adds an element with nothing in it but a text.
-    void add(std::string_view name, std::string_view text) {
+    void add(const element_name& name, std::string_view text) {
         open(name, text);
         close();
     }
     /// Adds a copy of an element and of all in it; the texts stay where they are.
     void add(const node& copied);
 
+    /// The element that was opened last among those that are open, by its number from 0.
+    std::size_t last_opened() const { return open_; }
+    std::string_view text_of(std::size_t element) const { return nodes_[element].text; }
+    void change_text(std::size_t element, std::string_view text) { nodes_[element].text = text; }
+
+    /// Makes room for so many elements.
+    void expect(std::size_t count) { nodes_.reserve(count); }
     /// Makes a place that lives as long as the tree.
-    char* place(std::size_t size);
+    char* place(std::size_t size) {
+        if (size > left_) {
+            make_room(size);
+        }
+        left_ -= size;
+        return std::exchange(next_, next_ + size);
+    }
     /// A copy of a text that lives as long as the tree.
     std::string_view keep(std::string_view text);
 
 private:
+    void make_room(std::size_t size);
+
     std::vector<node> nodes_;
     std::size_t open_ = 0; // index of the element that is open
-    std::unique_ptr<std::pmr::monotonic_buffer_resource> texts_;
+    std::vector<std::unique_ptr<char[]>> texts_;
+    char* next_ = nullptr; // free place in the last of them
+    std::size_t left_ = 0;
 };
 
 /// A text and its path, which names the elements that lead to it from below a root. Elements of the
@@ -108,9 +193,15 @@ public:
     std::string operator()(const node& element);
 
 private:
+    static constexpr std::uint32_t few = 64; // elements that are counted anew for each path
+
+    /// The number among those of its name; 0 where it is the only one.
+    std::uint32_t number_of(const node& parent, const node& element);
+    std::uint32_t known_number_of(const node& parent, const node& element);
+
     const node* root_;
-    std::unordered_set<const node*> counted_; // parents whose children have numbers
-    std::unordered_map<const node*, std::uint32_t> number_of_; // of those that need one
+    std::unordered_set<const node*> counted_; // parents whose elements have their numbers
+    std::unordered_map<const node*, std::uint32_t> numbers_;
 };
 
 /// All texts below an element, in their order. An element with nothing in it has an empty text.

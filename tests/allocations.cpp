@@ -120,17 +120,17 @@ template <class Class> void check_accessors(const Class& object) {
         const auto value = (object.*field.get)();
         using value_type = std::remove_const_t<decltype(value)>;
         EXPECT_EQ(blocks_taken_by([&] { (object.*field.get)(); }), held_blocks(value))
-            << field.element;
+            << field.setter_name;
 
         Class target = object;
         EXPECT_EQ(blocks_taken_by([&] { (target.*field.set)(value); }),
                   takes_a_copy(field.set) ? held_blocks(value) : assigned_blocks(value))
-            << field.element << " over a like value";
+            << field.setter_name << " over a like value";
 
         if constexpr (is_optional<value_type>) {
             (target.*field.set)(value_type());
             EXPECT_EQ(blocks_taken_by([&] { (target.*field.set)(value); }), held_blocks(value))
-                << field.element << " where it was absent";
+                << field.setter_name << " where it was absent";
         }
         if constexpr (lazy_group<Class> && !group<value_type>) {
             Class empty;
@@ -140,7 +140,7 @@ template <class Class> void check_accessors(const Class& object) {
             });
             EXPECT_EQ(blocks_taken_by([&] { (empty.*field.set)(value); }),
                       record + held_blocks(value))
-                << field.element << " as the first";
+                << field.setter_name << " as the first";
         }
     });
 }

@@ -24,6 +24,6 @@ for class in $classes; do
     sources+=("fiscal/$class.cpp")
 done
 "$compiler" -std=c++20 -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror \
-    -I. -Itests -Itests/support "${sources[@]}" layout/node.cpp layout/text.cpp "$suite" \
+    -I. -Itests -Itests/support "${sources[@]}" layout/engine.cpp layout/text.cpp layout/tree.cpp "$suite" \
     tests/contributing.cpp tests/support/allocations.cpp -lgtest -lgtest_main -o tests_of_examples
 ./tests_of_examples --gtest_brief=1

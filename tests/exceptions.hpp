@@ -128,7 +128,7 @@ TYPED_TEST_P(every_failure, of_a_setter_leaves_the_field_as_it_was) {
                 promised, [] { return TypeParam(); },
                 [&](TypeParam& object) { (object.*changed.set)(value); },
                 [&](const TypeParam& object, std::size_t before) {
-                    EXPECT_EQ(live_blocks(), before) << changed.element;
+                    EXPECT_EQ(live_blocks(), before) << changed.setter_name;
                     EXPECT_EQ(texts(object), texts(TypeParam()));
                 });
         }
@@ -139,8 +139,8 @@ TYPED_TEST_P(every_failure, of_a_setter_leaves_the_field_as_it_was) {
                 promise::propagates, [] { return sample<TypeParam>(1); },
                 [&](TypeParam& object) { (object.*changed.set)(std::string(1000, 'x')); },
                 [&](const TypeParam& object, std::size_t before) {
-                    EXPECT_EQ(live_blocks(), before) << changed.element;
-                    EXPECT_EQ(texts(object), old) << changed.element;
+                    EXPECT_EQ(live_blocks(), before) << changed.setter_name;
+                    EXPECT_EQ(texts(object), old) << changed.setter_name;
                 });
         }
     });

@@ -37,9 +37,9 @@ TEST(invoice, parties_come_back_as_they_were) {
     const auto invoice = read_xml(invoice_with(parties));
     const std::string written = erp::v12::layout::write_xml(invoice.invoice, invoice.outside);
     EXPECT_NE(written.find(parties), written.npos) << written;
-    EXPECT_EQ(invoice.result.unread, (std::vector<std::string>()));
-    EXPECT_TRUE(invoice.result.refused.empty());
-    EXPECT_EQ(invoice.result.texts, invoice.result.texts_read);
+    EXPECT_EQ(invoice.report.without_field, (std::vector<std::string>()));
+    EXPECT_TRUE(invoice.report.refused.empty());
+    EXPECT_EQ(invoice.report.texts, invoice.report.texts_in_fields);
 
     const auto foreigner = invoice.invoice.get_destinatario()->get_indicador_estrangeiro();
     EXPECT_EQ(foreigner, "") << "present, although empty";
@@ -69,10 +69,10 @@ TEST(invoice, a_refused_text_is_reported_and_left_out) {
         const std::string xml = "<emit><" + refused.element + ">" + refused.text + "</" +
                                 refused.element + "><IE>123</IE></emit>";
         const auto invoice = read_xml(invoice_with(xml));
-        ASSERT_EQ(invoice.result.refused.size(), 1U) << xml;
-        EXPECT_EQ(invoice.result.refused[0].path, "emit/" + refused.element);
-        EXPECT_EQ(invoice.result.refused[0].text, refused.text);
-        EXPECT_EQ(invoice.result.refused[0].instead, refused.expected);
+        ASSERT_EQ(invoice.report.refused.size(), 1U) << xml;
+        EXPECT_EQ(invoice.report.refused[0].path, "emit/" + refused.element);
+        EXPECT_EQ(invoice.report.refused[0].text, refused.text);
+        EXPECT_EQ(invoice.report.refused[0].instead, refused.expected);
         EXPECT_EQ(invoice.invoice.get_emitente().get_ie(), "123") << "the rest is read";
         EXPECT_FALSE(invoice.invoice.get_emitente().get_cnpj());
         EXPECT_FALSE(invoice.invoice.get_emitente().get_cnae());
@@ -86,7 +86,7 @@ TEST(invoice, a_number_that_is_too_large_is_refused) {
           std::pair{"18446744073709551617", false}}) {
         const auto invoice = read_xml(invoice_with(std::string("<emit><enderEmit><cPais>") + text +
                                                    "</cPais></enderEmit></emit>"));
-        EXPECT_EQ(invoice.result.refused.empty(), held) << text;
+        EXPECT_EQ(invoice.report.refused.empty(), held) << text;
         EXPECT_EQ(invoice.invoice.get_emitente().get_endereco().get_ibge_pais().has_value(), held);
     }
 }
@@ -112,14 +112,16 @@ TEST(invoice, what_has_no_field_is_reported_by_path) {
         "<n:emit><n:CPF>1</n:CPF><n:IE>2</n:IE><n:IE>3</n:IE>loose<n:enderEmit a='b'/></n:emit>"
         "<n:dest><n:IM/></n:dest><n:det nItem='1'><n:x/></n:det><n:det nItem='2'/>"
         "</n:infNFe><n:Signature/></n:NFe><n:protNFe><n:a/><n:b/></n:protNFe></n:nfeProc>");
-    EXPECT_EQ(invoice.result.unread,
-              (std::vector<std::string>{"@versao", "emit/text()", "emit/CPF", "emit/IE[2]",
-                                        "emit/enderEmit", "dest", "det[1]", "det[2]",
-                                        "NFe/Signature", "protNFe"}));
+    EXPECT_EQ(invoice.report.without_field,
+              (std::vector<std::string>{"emit/CPF", "emit/enderEmit/@a", "emit/text()", "dest/IM",
+                                        "det[1]/x"}));
+    ASSERT_EQ(invoice.report.without_room.size(), 1U);
+    EXPECT_EQ(invoice.report.without_room[0].path, "emit/IE[2]");
+    EXPECT_EQ(invoice.beside, (std::vector<std::string>{"@versao", "NFe/Signature", "protNFe"}));
     EXPECT_EQ(invoice.invoice.get_emitente().get_ie(), "2");
-    EXPECT_FALSE(invoice.invoice.get_destinatario()) << "nothing of it was read";
-    EXPECT_EQ(invoice.result.texts, 13U);
-    EXPECT_EQ(invoice.result.texts_read, 1U);
+    EXPECT_TRUE(invoice.invoice.get_destinatario()) << "there, although nothing of it has a field";
+    EXPECT_EQ(invoice.report.texts, 9U);
+    EXPECT_EQ(invoice.report.texts_in_fields, 3U);
 }
 
 // Catches a failure without a message, or an empty invoice in its place.

@@ -79,7 +79,7 @@ template <class Value> struct has_list {
         bool result = false;
         if constexpr (erp::v12::layout::group<Value>) {
             for_each_field<Value>([&](const auto& field, std::size_t) {
-                using inner = erp::v12::layout::value_of<decltype(field.get), Value>;
+                using inner = typename std::remove_cvref_t<decltype(field)>::value_type;
                 result = result || has_list<inner>::value();
             });
         }

@@ -42,7 +42,7 @@ template <class Class> std::vector<std::string> texts_after_a_move(const Class& 
 TYPED_TEST_P(every_class, a_new_object_holds_nothing) {
     for_each_field<TypeParam>([](const auto& field, std::size_t) {
         using value = value_of<std::remove_cvref_t<decltype(field)>, TypeParam>;
-        EXPECT_EQ(text((TypeParam().*field.get)()), text(value())) << field.element;
+        EXPECT_EQ(text((TypeParam().*field.get)()), text(value())) << field.setter_name;
     });
 }
 
@@ -60,8 +60,8 @@ TYPED_TEST_P(every_class, setting_one_field_leaves_the_others_alone) {
             }
             expected[index] = text(value);
             (object.*changed.set)(value);
-            EXPECT_EQ(texts(object), expected) << changed.element;
-            EXPECT_EQ(text(value), expected[index]) << changed.element << " takes a copy";
+            EXPECT_EQ(texts(object), expected) << changed.setter_name;
+            EXPECT_EQ(text(value), expected[index]) << changed.setter_name << " takes a copy";
         }
     });
 }
@@ -78,7 +78,7 @@ TYPED_TEST_P(every_class, setting_an_absent_value_removes_it) {
                 }
                 expected[index] = "absent";
                 (object.*changed.set)(value());
-                EXPECT_EQ(texts(object), expected) << changed.element;
+                EXPECT_EQ(texts(object), expected) << changed.setter_name;
             }
         }
     });
@@ -93,7 +93,7 @@ TYPED_TEST_P(every_class, copies_are_whole_and_share_nothing) {
     for_each_field<TypeParam>([&](const auto& field, std::size_t index) {
         using accessor = std::remove_cvref_t<decltype(field)>;
         ((*source).*field.set)(sample_for<TypeParam, accessor>(index, 2));
-        EXPECT_EQ(texts(copy), expected) << field.element;
+        EXPECT_EQ(texts(copy), expected) << field.setter_name;
     });
     source.reset();
     EXPECT_EQ(texts(copy), expected);
@@ -163,7 +163,7 @@ TYPED_TEST_P(every_class, empty_handles_allocate_nothing) {
             { [[maybe_unused]] const value plain{}; }
             const std::size_t of_a_default = taken_blocks() - start;
             { [[maybe_unused]] const value got = (empty.*field.get)(); }
-            EXPECT_EQ(taken_blocks() - start, 2 * of_a_default) << field.element;
+            EXPECT_EQ(taken_blocks() - start, 2 * of_a_default) << field.setter_name;
         });
 
         TypeParam full = sample<TypeParam>(1);
@@ -205,11 +205,11 @@ TYPED_TEST_P(every_class, only_what_never_throws_is_noexcept) {
     for_each_field<TypeParam>([](const auto& field, std::size_t) {
         using value = value_of<std::remove_cvref_t<decltype(field)>, TypeParam>;
         EXPECT_EQ(noexcept((std::declval<const TypeParam&>().*field.get)()),
-                  getter_never_throws<TypeParam>(field.element))
-            << field.element;
+                  getter_never_throws<TypeParam>(field.setter_name))
+            << field.setter_name;
         EXPECT_EQ(noexcept((std::declval<TypeParam&>().*field.set)(std::declval<value&>())),
                   setters_never_throw<TypeParam>)
-            << field.element;
+            << field.setter_name;
     });
 }
 

@@ -26,7 +26,7 @@ std::string list(const std::vector<json>& elements) {
     return '[' + lines + ']';
 }
 
-std::vector<json> remarks(const std::vector<layout::reading::remark>& told) {
+std::vector<json> remarks(const std::vector<layout::report::remark>& told) {
     std::vector<json> result;
     result.reserve(told.size());
     for (const auto& remark : told) {
@@ -36,33 +36,60 @@ std::vector<json> remarks(const std::vector<layout::reading::remark>& told) {
     return result;
 }
 
+/// What stands around the invoice of a document, without the elements around it.
+layout::tree beside_invoice(const layout::tree& document) {
+    const layout::node& invoice = layout::invoice_in(document);
+    layout::tree result;
+    result.open("");
+    for (const layout::node* parent = &invoice; parent->up != 0;) {
+        const layout::node* const inner = parent;
+        parent -= parent->up;
+        for (const layout::node& child : layout::children(*parent)) {
+            if (&child != inner) {
+                result.add(child);
+            }
+        }
+    }
+    result.close();
+    return result;
+}
+
 } // namespace
 
 void write_json(const layout::invoice_document& document) {
     std::vector<json> texts;
-    for (const auto& placed :
-         layout::placed_texts(layout::write_node(document.invoice, document.outside))) {
+    const layout::tree written = layout::write_tree(document.invoice, document.outside);
+    for (const auto& placed : layout::texts_of(written.root())) {
         texts.push_back({{"path", placed.path}, {"text", placed.text}});
     }
-    const layout::reading& result = document.result;
-    const std::string written = fmt::format(
+    const layout::report& told = document.report;
+    const std::string whole = fmt::format(
         R"({{"texts": {},
 "without_field": {},
-"changed": {},
-"refused": {}}})",
-        list(texts), list({result.unread.begin(), result.unread.end()}),
-        list(remarks(result.changed)), list(remarks(result.refused)));
-    fmt::print("{}\n", escaped(written, "\\u", ""));
+"refused": {},
+"written_otherwise": {},
+"without_room": {},
+"added": {},
+"beside": {}}})",
+        list(texts), list({told.without_field.begin(), told.without_field.end()}),
+        list(remarks(told.refused)), list(remarks(told.written_otherwise)),
+        list(remarks(told.without_room)), list(remarks(told.added)),
+        list({document.beside.begin(), document.beside.end()}));
+    fmt::print("{}\n", escaped(whole, "\\u", ""));
 }
 
 void write_xml(const layout::invoice_document& document) {
     fmt::print("{}\n", escaped(layout::write_xml(document.invoice, document.outside), "&#x", ";"));
 }
 
-bool write_differences(const std::string& left_path, const layout::invoice_document& left,
-                       const std::string& right_path, const layout::invoice_document& right) {
-    const auto found = layout::differences(layout::write_node(left.invoice, left.outside),
-                                           layout::write_node(right.invoice, right.outside));
+bool write_differences(const std::string& left_path, const layout::tree& left,
+                       const std::string& right_path, const layout::tree& right) {
+    std::vector<layout::difference> found =
+        layout::differences(layout::invoice_in(left), layout::invoice_in(right));
+    for (const layout::difference& beside :
+         layout::differences(beside_invoice(left).root(), beside_invoice(right).root())) {
+        found.push_back(beside);
+    }
     if (!found.empty()) {
         fmt::print("--- {}\n+++ {}\n", harmless(left_path), harmless(right_path));
     }

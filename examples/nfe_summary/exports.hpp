@@ -14,11 +14,10 @@ void write_json(const kivo::erp::v12::layout::invoice_document& document);
 /// An unsigned document.
 void write_xml(const kivo::erp::v12::layout::invoice_document& document);
 
-/// The texts that differ, by path: those of the first behind -, those of the second behind +.
+/// The texts in which two documents differ, by path: those of the first behind -, those of the
+/// second behind +.
 /// Answers whether there are any.
-bool write_differences(const std::string& left_path,
-                       const kivo::erp::v12::layout::invoice_document& left,
-                       const std::string& right_path,
-                       const kivo::erp::v12::layout::invoice_document& right);
+bool write_differences(const std::string& left_path, const kivo::erp::v12::layout::tree& left,
+                       const std::string& right_path, const kivo::erp::v12::layout::tree& right);
 
 } // namespace nfe_summary

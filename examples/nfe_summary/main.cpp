@@ -26,58 +26,42 @@ struct arguments {
     std::size_t width = 0; // 0: the terminal's
 };
 
-/// A failure to read a file, which names it.
-struct unreadable_file {
-    std::string path;
-    std::string reason;
-};
-
-layout::invoice_document read(const std::string& path) {
-    try {
-        return layout::read_file(path);
-    } catch (const std::exception& failure) {
-        throw unreadable_file{path, failure.what()};
-    }
-}
-
 /// Tells the refused texts of a file on standard error. Answers the status.
-int tell_refusals(const std::string& path, const layout::reading& result) {
-    for (const std::string& refusal : refusals(result)) {
+int tell_refusals(const std::string& path, const layout::report& told) {
+    for (const std::string& refusal : refusals(told)) {
         complain(path, refusal);
     }
-    return result.refused.empty() ? 0 : 1;
+    return told.refused.empty() ? 0 : 1;
 }
 
-/// Tells on standard error what of a file has no place in what was written.
-void tell_left_out(const std::string& path, const layout::reading& result) {
-    const std::vector<std::string> lost = paths_without_field(result);
+/// Tells on standard error in what a file differs from what was written of it.
+int tell_changes(const std::string& path, const layout::report& told) {
+    const std::vector<std::string> lost = paths_without_field(told);
     if (!lost.empty()) {
         complain(path, "left out, without a field: " + joined(lost));
     }
+    for (const std::string& change : changes(told)) {
+        complain(path, change);
+    }
+    return tell_refusals(path, told);
 }
 
 int run_json(const std::string& path) {
-    const layout::invoice_document document = read(path);
+    const layout::invoice_document document = layout::read_file(path);
     write_json(document);
-    return tell_refusals(path, document.result);
+    return tell_refusals(path, document.report);
 }
 
 int run_xml(const std::string& path) {
-    const layout::invoice_document document = read(path);
+    const layout::invoice_document document = layout::read_file(path);
     write_xml(document);
-    tell_left_out(path, document.result);
-    return tell_refusals(path, document.result);
+    return tell_changes(path, document.report);
 }
 
 int run_diff(const std::string& left_path, const std::string& right_path) {
-    const layout::invoice_document left = read(left_path);
-    const layout::invoice_document right = read(right_path);
-    const bool differ = write_differences(left_path, left, right_path, right);
-    tell_left_out(left_path, left.result);
-    tell_left_out(right_path, right.result);
-    const int refused =
-        tell_refusals(left_path, left.result) | tell_refusals(right_path, right.result);
-    return differ ? 1 : refused;
+    const bool differ = write_differences(left_path, layout::parse_file(left_path), right_path,
+                                          layout::parse_file(right_path));
+    return differ ? 1 : 0;
 }
 
 int run_show(const arguments& given) {
@@ -90,9 +74,9 @@ int run_show(const arguments& given) {
         const int status = show_overview(out, files.paths);
         return files.complete ? status : 1;
     }
-    const layout::invoice_document document = read(first);
+    const layout::invoice_document document = layout::read_file(first);
     show(out, document);
-    return document.result.refused.empty() ? 0 : 1;
+    return document.report.refused.empty() ? 0 : 1;
 }
 
 void check(const arguments& given) {
@@ -152,10 +136,8 @@ int main(int argc, char** argv) {
             return 1;
         }
         return status;
-    } catch (const nfe_summary::unreadable_file& failure) {
-        nfe_summary::complain(failure.path, failure.reason);
     } catch (const std::exception& failure) {
-        nfe_summary::complain("failed", failure.what());
+        nfe_summary::complain(failure.what());
     }
     return 1;
 }

@@ -45,8 +45,8 @@ found_invoice read(const std::string& path) {
         found.issuer = invoice.get_emitente().get_razao_social();
         found.recipient = recipient ? recipient->get_razao_social().value_or("") : "";
         found.total = invoice.get_total_nfe().get_total_icms().get_total_da_nota();
-        found.problems = problems(document.result);
-        found.refused = !document.result.refused.empty();
+        found.problems = problems(document.report);
+        found.refused = !document.report.refused.empty();
     } catch (const std::exception& failure) {
         found.failure = failure.what();
     }
@@ -153,7 +153,7 @@ int show_overview(const page& out, const std::vector<std::string>& paths) {
     for (std::size_t index = 0; index < all.size(); ++index) {
         const found_invoice& found = all[index];
         if (!found.failure.empty()) {
-            complain(paths[index], found.failure);
+            complain(found.failure);
             ++unreadable;
             continue;
         }

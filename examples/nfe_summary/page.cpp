@@ -19,9 +19,12 @@ constexpr std::size_t narrowest = 40;
 } // namespace
 
 void complain(std::string_view path, std::string_view message) {
-    constexpr std::size_t longest = 300; // a message may hold a name from the file
-    fmt::print(stderr, "nfe_summary: {}: {}\n", harmless(path),
-               shortened(harmless(message), longest));
+    complain(fmt::format("{}: {}", path, message));
+}
+
+void complain(std::string_view message) {
+    constexpr std::size_t longest = 400; // a message may hold a name from the file
+    fmt::print(stderr, "nfe_summary: {}\n", shortened(harmless(message), longest));
 }
 
 page page::of_terminal() {

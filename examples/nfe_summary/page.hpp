@@ -16,6 +16,8 @@ struct labelled_amount {
 
 /// Tells on standard error, in one line, what is wrong with a file.
 void complain(std::string_view path, std::string_view message);
+/// The same, of a message that names the file itself.
+void complain(std::string_view message);
 
 /// Standard output, as a person sees it.
 struct page {

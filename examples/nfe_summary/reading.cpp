@@ -21,18 +21,12 @@ std::string without_numbers(std::string_view path) {
     return result;
 }
 
-/// Whether a path without numbers leads to what is around an invoice, such as its signature.
-bool is_around(std::string_view path) {
-    return path == "@versao" || path == "infNFeSupl" || path == "Signature" || path == "protNFe" ||
-           path.starts_with("NFe/");
-}
-
-std::vector<std::string> unread(const layout::reading& result, bool around) {
+std::vector<std::string> counted_by_name(const std::vector<std::string>& full_paths) {
     std::map<std::string, std::size_t> counts;
     std::vector<std::string> paths;
-    for (const std::string& full_path : result.unread) {
+    for (const std::string& full_path : full_paths) {
         std::string path = without_numbers(full_path);
-        if (is_around(path) == around && ++counts[path] == 1) {
+        if (++counts[path] == 1) {
             paths.push_back(std::move(path));
         }
     }
@@ -45,9 +39,10 @@ std::vector<std::string> unread(const layout::reading& result, bool around) {
 
 std::string in_quotes(std::string_view text) { return '"' + shortened(text, 60) + '"'; }
 
-std::vector<std::string> shortened_list(std::vector<std::string> texts) {
+/// A list that a terminal has room for; anything else gets it whole.
+std::vector<std::string> shortened_list(const page& out, std::vector<std::string> texts) {
     constexpr std::size_t longest = 20;
-    if (texts.size() > longest) {
+    if (out.width != unlimited && texts.size() > longest) {
         const std::size_t more = texts.size() - longest;
         texts.resize(longest);
         texts.push_back(fmt::format("and {} more", more));
@@ -57,44 +52,58 @@ std::vector<std::string> shortened_list(std::vector<std::string> texts) {
 
 } // namespace
 
-std::vector<std::string> paths_without_field(const layout::reading& result) {
-    return unread(result, false);
+std::vector<std::string> paths_without_field(const layout::report& told) {
+    return counted_by_name(told.without_field);
 }
 
-std::vector<std::string> refusals(const layout::reading& result) {
+std::vector<std::string> refusals(const layout::report& told) {
     std::vector<std::string> texts;
-    for (const auto& refused : result.refused) {
+    for (const auto& refused : told.refused) {
         texts.push_back(fmt::format("{}: {} is not {}", refused.path, in_quotes(refused.text),
                                     refused.instead));
     }
     return texts;
 }
 
-std::string problems(const layout::reading& result) {
+std::vector<std::string> changes(const layout::report& told) {
+    std::vector<std::string> texts;
+    for (const auto& changed : told.written_otherwise) {
+        texts.push_back(changed.text.empty()
+                            ? fmt::format("{} is written at {}", changed.path, changed.instead)
+                            : fmt::format("{}: {} is written as {}", changed.path,
+                                          in_quotes(changed.text), in_quotes(changed.instead)));
+    }
+    for (const auto& lost : told.without_room) {
+        texts.push_back(fmt::format("{}: no room for {}", lost.path, in_quotes(lost.text)));
+    }
+    for (const auto& added : told.added) {
+        texts.push_back(
+            fmt::format("{}: {} is written in addition", added.path, in_quotes(added.instead)));
+    }
+    return texts;
+}
+
+std::string problems(const layout::report& told) {
     const auto counted = [](std::size_t count, std::string_view what) {
         return count == 0 ? "" : fmt::format("{} {}", count, what);
     };
-    std::size_t without_field = 0;
-    for (const std::string& path : result.unread) {
-        without_field += is_around(without_numbers(path)) ? 0 : 1;
-    }
-    return joined({counted(result.refused.size(), "refused"),
-                   counted(result.changed.size(), "changed"), counted(without_field, "left out")});
+    return joined({counted(told.refused.size(), "refused"),
+                   counted(told.written_otherwise.size(), "written otherwise"),
+                   counted(told.without_room.size(), "without room"),
+                   counted(told.added.size(), "added"),
+                   counted(told.without_field.size(), "left out")});
 }
 
-void show_reading(const page& out, const layout::reading& result) {
-    out.field("File",
-              fmt::format("{} of the file's {} elements have found their place; --json lists them",
-                          result.texts_read, result.texts));
-    out.field("Without a field", joined(shortened_list(unread(result, false))));
-    out.field("Outside", joined(shortened_list(unread(result, true))));
-    std::vector<std::string> changes;
-    for (const auto& changed : result.changed) {
-        changes.push_back(fmt::format("{}: {} is kept as {}", changed.path, in_quotes(changed.text),
-                                      in_quotes(changed.instead)));
-    }
-    out.fields("Changed", shortened_list(changes));
-    out.fields("Refused", refusals(result));
+void show_reading(const page& out, const layout::invoice_document& document) {
+    const layout::report& told = document.report;
+    out.field(
+        "File",
+        fmt::format("{} of the invoice's {} elements have found their place; --json lists them",
+                    told.texts_in_fields, told.texts));
+    out.field("Without a field", joined(shortened_list(out, paths_without_field(told))));
+    out.field("Beside", joined(shortened_list(out, counted_by_name(document.beside))));
+    out.fields("Changed", shortened_list(out, changes(told)));
+    out.fields("Refused", refusals(told));
 }
 
 } // namespace nfe_summary

@@ -2,7 +2,7 @@
 
 #include "page.hpp"
 
-#include <layout/node.hpp>
+#include <layout/xml.hpp>
 
 #include <string>
 #include <vector>
@@ -13,15 +13,18 @@ namespace nfe_summary {
 namespace layout = kivo::erp::v12::layout;
 
 /// Shows how much of the file is in the invoice, and what is not.
-void show_reading(const page& out, const layout::reading& result);
+void show_reading(const page& out, const layout::invoice_document& document);
 
 /// `emit/CNPJ: "12" is not a CNPJ`, for each text that its field could not hold.
-std::vector<std::string> refusals(const layout::reading& result);
+std::vector<std::string> refusals(const layout::report& told);
+
+/// A line for each other thing in which the invoice as it is written differs from the file.
+std::vector<std::string> changes(const layout::report& told);
 
 /// The paths in the invoice for which it has no field; elements of a list once, with their number.
-std::vector<std::string> paths_without_field(const layout::reading& result);
+std::vector<std::string> paths_without_field(const layout::report& told);
 
-/// Counts what a file holds and its invoice does not; empty when that is nothing.
-std::string problems(const layout::reading& result);
+/// Counts in how many ways the invoice as it is written differs from the file; empty when in none.
+std::string problems(const layout::report& told);
 
 } // namespace nfe_summary

@@ -229,7 +229,7 @@ void show(const page& out, const layout::invoice_document& document) {
     show_transport(out, invoice.get_informacoes_transporte());
     show_texts(out, invoice);
     page::line("");
-    show_reading(out, document.result);
+    show_reading(out, document);
 }
 
 } // namespace nfe_summary

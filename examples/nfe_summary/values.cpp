@@ -9,6 +9,8 @@
 
 namespace nfe_summary {
 
+namespace layout = kivo::erp::v12::layout;
+
 namespace {
 
 constexpr std::size_t most_places = 15; // of a decimal
@@ -116,7 +118,7 @@ std::string cpf_text(std::string_view number) { return punctuated(number, "###.#
 std::string address(const fiscal::endereco& place) {
     const auto postal_code = place.get_cep();
     const std::string digits =
-        postal_code ? layout::number_text(*postal_code, layout::digits(8)) : "";
+        postal_code ? layout::text_of(*postal_code, layout::digits(8)).value_or("") : "";
     return joined({place.get_logradouro(), place.get_numero_endereco(),
                    place.get_complemento().value_or(""), place.get_bairro(),
                    joined({punctuated(digits, "#####-###"),

@@ -2,8 +2,6 @@
 
 #include "text.hpp"
 
-#include <layout/node.hpp>
-
 #include <fiscal/endereco.hpp>
 #include <fiscal/types.hpp>
 
@@ -15,7 +13,6 @@
 namespace nfe_summary {
 
 namespace fiscal = kivo::erp::v12::fiscal;
-namespace layout = kivo::erp::v12::layout;
 
 /// `1.234,56`, from the digits of the value: at least so many decimal places, and more only where
 /// they are not zero.

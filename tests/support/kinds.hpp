@@ -1,6 +1,6 @@
 #pragma once
 
-#include "fields.hpp"
+#include "samples.hpp"
 
 #include <base/optional.hpp>
 #include <base/variant.hpp>
@@ -30,7 +30,7 @@ template <class Value> struct may_end {
         bool result = copy_ends<Value>;
         if constexpr (erp::v12::layout::group<Value>) {
             for_each_field<Value>([&](const auto& field, std::size_t) {
-                using inner = erp::v12::layout::value_of<decltype(field.get), Value>;
+                using inner = typename std::remove_cvref_t<decltype(field)>::value_type;
                 result = result || may_end<inner>::value();
             });
         }
@@ -50,8 +50,9 @@ template <class Class> std::vector<std::size_t> removed_with(std::size_t changed
     if constexpr (std::is_same_v<Class, erp::v12::fiscal::produto>) {
         bool removes = false;
         for_each_field<Class>([&](const auto& field, std::size_t index) {
-            const std::string_view element = field.element;
-            if (element == "med" || element == "arma" || element == "comb") {
+            const std::string_view setter = field.setter_name;
+            if (setter == "set_medicamentos" || setter == "set_armas" ||
+                setter == "set_combustiveis") {
                 index == changed ? void(removes = true) : result.push_back(index);
             }
         });

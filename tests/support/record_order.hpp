@@ -1,6 +1,6 @@
 #pragma once
 
-#include "fields.hpp"
+#include "samples.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "fields.hpp"
-
 #include <base_samples.hpp>
 #include <fiscal/types.hpp>
+#include <layout/map.hpp>
 
 #include <concepts>
 #include <cstddef>
@@ -16,19 +15,12 @@
 /// Values for every field of every class, told apart by a number, and their texts.
 namespace kivo::tests {
 
-template <class Value> inline constexpr bool is_variant = false;
-template <class... Alternatives>
-inline constexpr bool is_variant<core::v7::variant<Alternatives...>> = true;
+using erp::v12::layout::amount_structure;
+using erp::v12::layout::for_each_field;
+using erp::v12::layout::is_variant;
 
 /// What a getter of the class returns.
-template <class Accessor, class Class>
-using value_of = erp::v12::layout::value_of<decltype(Accessor::get), Class>;
-
-/// A structure of nothing but an amount.
-template <class Value>
-concept amount_structure = requires(Value& value) {
-    { value.valor } -> std::same_as<erp::v12::fiscal::decimal&>;
-};
+template <class Accessor, class> using value_of = typename Accessor::value_type;
 
 template <class Value> Value sample(std::size_t number);
 
