@@ -13,27 +13,23 @@ namespace kivo::erp::v12::layout {
 
 namespace {
 
-// Where texts differ from those that the official schemas accept, the schemas slip:
-// - a date may have a comma in its month ("2024-0,-30"), an offset a comma for its sign, a CFOP one
-//   for its first digit, and cListServ anything for its point: the patterns have a mark too many,
-//   or none before a point;
-// - `\d` takes the digits of every script: in dates, times, CST, cClassTrib and cCredPres of IBS
-//   and CBS; here only 0 to 9 are digits;
-// - competApur, Id and texts in base64 have types of XML that take blanks around them; competApur
-//   takes years beyond 9999 and an offset as well
+// Some texts are refused here that the official schemas, or programs that read them, let pass:
+// - patterns with a mark too many, or none before a point: a comma in the month of a date
+//   ("2024-0,-30"), for the sign of an offset, for the first digit of a CFOP; any character for the
+//   point of cListServ
+// - `\d`, which is a digit of any script: in dates and times, CST and cClassTrib of IS, IBS and
+// CBS,
+//   and cCredPres; here only 0 to 9 are digits
+// - Id and competApur have types of XML: Id may have blanks around it, competApur an offset from
+//   UTC, or a year beyond 9999
+// - libxml2 passes over characters that are not of base64, and miscounts where parts of a pattern
+//   begin alike: it takes 9 digits for an NCM, 5 for an AAMM
 
 constexpr bool is_digit(char character) { return character >= '0' && character <= '9'; }
 
 constexpr unsigned digit_of(char character) { return static_cast<unsigned>(character - '0'); }
 
-bool all_digits(std::string_view text) {
-    for (const char character : text) {
-        if (!is_digit(character)) {
-            return false;
-        }
-    }
-    return true;
-}
+bool all_digits(std::string_view text) { return std::all_of(text.begin(), text.end(), is_digit); }
 
 bool is_between(std::size_t number, std::size_t least, std::size_t most) {
     return number >= least && number <= most;
@@ -121,12 +117,8 @@ bool is_decimal(std::string_view text, const text_rule& rule) {
 }
 
 bool is_code(std::string_view text, const text_rule& rule) {
-    for (const std::string_view code : rule.codes()) {
-        if (code == text) {
-            return true;
-        }
-    }
-    return false;
+    const text_list codes = rule.codes();
+    return std::find(codes.begin(), codes.end(), text) != codes.end();
 }
 
 bool is_like(std::string_view text, const text_rule& rule) {
@@ -208,8 +200,8 @@ bool is_base64(std::string_view text, const text_rule& rule) {
         ++digits;
     }
     const unsigned left_over = padding == 0 ? 0 : padding == 1 ? 3 : 15;
-    return (digits + padding) % 4 == 0 && padding <= 2 && digits >= padding &&
-           (last & left_over) == 0 && (rule.most == 0 || digits * 3 / 4 == rule.most);
+    return (digits + padding) % 4 == 0 && padding <= 2 && (last & left_over) == 0 &&
+           (rule.most == 0 || digits * 3 / 4 == rule.most);
 }
 
 bool fits(std::string_view text, const text_rule& rule) {
@@ -263,10 +255,11 @@ bool is_met(const group_rule& rule, std::uint64_t present) {
         return rule.may_be_empty;
     }
     if (rule.is == group_rule::kind::choice) {
-        if ((present & rule.direct) == present && std::has_single_bit(present)) {
+        if ((present & rule.direct) == present && (present & (present - 1)) == 0) {
             return true;
         }
-        for (const group_rule* part = rule.first_group(); part; part = part->next_group()) {
+        for (const group_rule* part = rule.first_group(); part != nullptr;
+             part = part->next_group()) {
             if ((present & ~part->elements) == 0 && is_met(*part, present)) {
                 return true;
             }
@@ -276,7 +269,7 @@ bool is_met(const group_rule& rule, std::uint64_t present) {
     if ((rule.demanded & ~present) != 0) {
         return false;
     }
-    for (const group_rule* part = rule.first_group(); part; part = part->next_group()) {
+    for (const group_rule* part = rule.first_group(); part != nullptr; part = part->next_group()) {
         if (!is_met(*part, present & part->elements)) {
             return false;
         }
@@ -331,6 +324,11 @@ private:
     void add(fault::kind kind, const node& at, std::string demanded) {
         found_.push_back({&at, {kind, path_of(at), std::string(at.text), std::move(demanded)}});
     }
+    void add_unknown(const node& element, const std::string& where) {
+        const bool attribute = element.name.starts_with('@');
+        add(fault::kind::unknown, element,
+            (attribute ? "no such attribute " : "no such element ") + where);
+    }
     void add_missing(const node& group, std::string_view name, std::string demanded) {
         std::string path = path_of(group);
         path += path.empty() || name.empty() ? "" : "/";
@@ -354,7 +352,7 @@ void checker::check_group(const node& group, const element_rule& rule) {
     for (const node& child : children(group)) {
         const element_rule* const known = rule.child(child.name, expected);
         if (known == nullptr) {
-            add(fault::kind::unknown, child, "no such element in " + std::string(group.name));
+            add_unknown(child, "in " + std::string(group.name));
             continue;
         }
         const unsigned position = known->position();
@@ -393,7 +391,7 @@ void checker::check_text(const node& element, const element_rule& rule) {
         add(fault::kind::wrong_text, element, demanded_text(rule));
     }
     for (const node& child : children(element)) {
-        add(fault::kind::unknown, child, "no elements in " + std::string(element.name));
+        add_unknown(child, "beside a text");
     }
 }
 
@@ -402,7 +400,8 @@ void checker::check_numbers(const node& group, const element_rule& rule) {
     for (const node& child : children(group)) {
         const element_rule* const known = rule.child(child.name);
         for (const node& inner : children(child)) {
-            const element_rule* const number = known ? known->child(inner.name) : nullptr;
+            const element_rule* const number =
+                known == nullptr ? nullptr : known->child(inner.name);
             if (number == nullptr || !number->is_attribute()) {
                 break;
             }
@@ -439,16 +438,16 @@ void checker::check_order(const node& group, const element_rule& rule) {
 /// Tells as few elements as possible: those that do not belong to the longest row in order.
 void checker::check_order(const std::vector<known_child>& elements) {
     const auto position = [&](std::size_t index) { return elements[index].rule->position(); };
-    std::vector<std::size_t>
-        row_ends; // of the rows of each length, the end with the lowest position
+    std::vector<std::size_t> row_ends; // for each length of a row, its lowest end
     std::vector<std::size_t> before(elements.size());
-    const auto first_above = [&](const std::vector<std::size_t>& row, unsigned highest) {
-        return std::upper_bound(
-            row.begin(), row.end(), highest,
-            [&](unsigned value, std::size_t index) { return value < position(index); });
+    /// The first of a row at some position or, where `behind` is set, behind that.
+    const auto first_at = [&](const std::vector<std::size_t>& row, unsigned wanted, bool behind) {
+        return std::partition_point(row.begin(), row.end(), [&](std::size_t index) {
+            return position(index) < wanted || (behind && position(index) == wanted);
+        });
     };
     for (std::size_t index = 0; index < elements.size(); ++index) {
-        const auto replaced = first_above(row_ends, position(index));
+        const auto replaced = first_at(row_ends, position(index), true);
         before[index] = replaced == row_ends.begin() ? index : *(replaced - 1);
         if (replaced == row_ends.end()) {
             row_ends.push_back(index);
@@ -467,15 +466,12 @@ void checker::check_order(const std::vector<known_child>& elements) {
             ++in_row;
             continue;
         }
-        const auto next = first_above(row, position(index));
-        if (next != row.end() && *next < index) {
-            add(fault::kind::out_of_order, *elements[index].element,
-                "before " + std::string(elements[*next].rule->name()));
-        } else {
-            // one that has to stand before it stands behind it, or the row would be longer
-            add(fault::kind::out_of_order, *elements[index].element,
-                "behind " + std::string(elements[*(next - 1)].rule->name()));
-        }
+        // were none of the row on the wrong side of it, the row would be longer
+        const auto later = first_at(row, position(index), true);
+        const bool too_late = later != row.end() && *later < index;
+        const auto other = too_late ? later : first_at(row, position(index), false) - 1;
+        add(fault::kind::out_of_order, *elements[index].element,
+            (too_late ? "before " : "behind ") + std::string(elements[*other].rule->name()));
     }
 }
 
@@ -505,7 +501,8 @@ void checker::tell_unmet(const node& group, const element_rule& rule, const grou
             add_missing(group, "", "one of " + branches(rule, part));
             return;
         }
-        for (const group_rule* branch = part.first_group(); branch; branch = branch->next_group()) {
+        for (const group_rule* branch = part.first_group(); branch != nullptr;
+             branch = branch->next_group()) {
             if ((present & ~branch->elements) == 0) {
                 tell_unmet(group, rule, *branch, present);
                 return;
@@ -516,14 +513,17 @@ void checker::tell_unmet(const node& group, const element_rule& rule, const grou
     }
     for (std::uint64_t absent = part.demanded & ~present; absent != 0; absent &= absent - 1) {
         const element_rule& missing = rule.children()[lowest(absent)];
-        std::string demanded = missing.is_group() ? "a group" : demanded_text(missing);
+        std::string demanded;
         if (missing.nested() && present != 0) {
-            demanded =
-                "beside " + std::string(rule.children()[lowest(present)].name()) + ": " + demanded;
+            demanded += "beside ";
+            demanded += rule.children()[lowest(present)].name();
+            demanded += ": ";
         }
+        demanded += missing.is_group() ? "a group" : demanded_text(missing);
         add_missing(group, missing.name(), std::move(demanded));
     }
-    for (const group_rule* inner = part.first_group(); inner; inner = inner->next_group()) {
+    for (const group_rule* inner = part.first_group(); inner != nullptr;
+         inner = inner->next_group()) {
         tell_unmet(group, rule, *inner, present & inner->elements);
     }
 }
@@ -552,12 +552,9 @@ std::vector<fault> check(const node& infnfe) {
 }
 
 bool is_allowed(const element_rule& rule, std::string_view text) {
-    for (const text_rule& way : rule.texts()) {
-        if (fits(text, way)) {
-            return true;
-        }
-    }
-    return false;
+    const auto ways = rule.texts();
+    return std::any_of(ways.begin(), ways.end(),
+                       [&](const text_rule& way) { return fits(text, way); });
 }
 
 } // namespace kivo::erp::v12::layout

@@ -59,7 +59,7 @@ length length_of(const text_rule& rule) {
     case kind::mm_aaaa:
         return {7, 7, false};
     case kind::base64: {
-        const std::size_t characters = (rule.most + 2U) / 3 * 4;
+        const std::size_t characters = (std::size_t{rule.most} + 2) / 3 * 4;
         return {characters, characters, false};
     }
     case kind::codes: {

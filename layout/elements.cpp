@@ -256,10 +256,10 @@ struct text_table {
                 continue;
             }
             const std::string_view content = element.content;
+            const auto middle = static_cast<unsigned char>(content[content.size() / 2]);
+            const auto back = static_cast<unsigned char>(content.back());
             std::size_t& chain =
-                newest[(content.size() * 31 + static_cast<unsigned char>(content.back()) * 7 +
-                        static_cast<unsigned char>(content[content.size() / 2])) %
-                       newest.size()];
+                newest[(content.size() * 31 + middle + back * std::size_t{7}) % newest.size()];
             std::size_t known = chain;
             while (known != 0 && lines.elements[known].content != content) {
                 known = older[known];
@@ -321,18 +321,22 @@ private:
                       : form == "MM/AAAA" ? kind::mm_aaaa
                                           : throw std::invalid_argument("no form of a month");
         } else {
-            const auto named = std::find_if(lines.definitions.begin(), lines.definitions.end(),
-                                            [&](const definition& it) { return it.name == word; });
-            if (named == lines.definitions.end()) {
-                throw std::invalid_argument("a content that is neither known nor defined");
-            }
-            add(named->content);
+            add(content_of(word));
             return;
         }
         rules.add(rule);
     }
 
-    constexpr void add_decimal(cursor& at, text_rule& rule) {
+    static constexpr std::string_view content_of(std::string_view name) {
+        for (const definition& known : lines.definitions) {
+            if (known.name == name) {
+                return known.content;
+            }
+        }
+        throw std::invalid_argument("a form that is neither known nor defined");
+    }
+
+    static constexpr void add_decimal(cursor& at, text_rule& rule) {
         at.number(rule.whole);
         at.demand('.');
         at.range(rule.least, rule.most);
@@ -550,7 +554,7 @@ struct element_table {
     element_rule rules[rule_count];
     std::array<std::uint16_t, 2048> slots = {}; // index of a rule by parent and name; 0: none
 
-    constexpr element_table() : rules() {
+    constexpr element_table() {
         static_assert(rule_count < 1500, "the slots are too few");
         std::array<std::size_t, rule_count> line_of = {}; // the line of each rule
         std::size_t count = 1;
@@ -679,9 +683,6 @@ namespace {
 bool has_both(const group_rule& rule, std::uint64_t both) {
     if ((rule.elements & both) != both || rule.is == group_rule::kind::element) {
         return false;
-    }
-    if (rule.is == group_rule::kind::sequence && (rule.direct & both) != 0) {
-        return true;
     }
     const group_rule* const end = &rule + rule.size;
     for (const group_rule* part = &rule + 1; part != end; part += part->size) {
