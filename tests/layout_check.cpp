@@ -200,6 +200,47 @@ TEST(elements, have_patterns_whose_runs_end_where_the_next_begins) {
     });
 }
 
+void expect_sum(const group_rule& rule) {
+    std::uint64_t elements = 0;
+    std::uint64_t direct = 0;
+    std::uint64_t needed = 0;
+    bool may_be_empty = rule.is == group_rule::kind::sequence;
+    const group_rule* group = rule.first_group();
+    const group_rule* const end = &rule + rule.size;
+    const group_rule* part = &rule + 1;
+    for (; part < end; part += part->size) {
+        elements |= part->elements;
+        if (part->is == group_rule::kind::element) {
+            EXPECT_EQ(part->elements, std::uint64_t{1} << part->position);
+            direct |= part->elements;
+            needed |= part->optional ? 0 : part->elements;
+        } else {
+            EXPECT_EQ(part, group);
+            group = part->next_group();
+            expect_sum(*part);
+        }
+        may_be_empty = rule.is == group_rule::kind::sequence ? may_be_empty && part->may_be_empty
+                                                             : may_be_empty || part->may_be_empty;
+    }
+    EXPECT_EQ(part, end);
+    EXPECT_EQ(group, nullptr);
+    EXPECT_EQ(rule.elements, elements);
+    EXPECT_EQ(rule.direct, direct);
+    EXPECT_EQ(rule.demanded, rule.is == group_rule::kind::sequence ? needed : 0);
+    EXPECT_EQ(rule.may_be_empty, rule.optional || may_be_empty);
+}
+
+// Catches a part of a group that is left out where the group is walked or summed up.
+TEST(elements, have_groups_that_are_the_sum_of_their_parts) {
+    for_each_rule([](const element_rule& rule) {
+        if (rule.is_group()) {
+            expect_sum(rule.content());
+            const std::size_t unused = 64 - rule.children().size();
+            EXPECT_EQ(rule.content().elements, ~std::uint64_t{0} >> unused);
+        }
+    });
+}
+
 // Catches a sign of the text that is read as another.
 TEST(elements, tell_how_they_stand) {
     const struct {
@@ -234,6 +275,9 @@ TEST(elements, tell_how_they_stand) {
         {"transp/reboque", "(0-5)", "group", ""},
         {"transp/vol", "0-5000", "group", ""},
         {"infRespTec/hashCSRT", "(1)", "text 28", "20 bytes in base64"},
+        {"transp/reboque/placa", "1", "text 6-7",
+         "2 to 3 capital letters, 4 digits; or 3 to 4 capital letters, 3 digits; or 7 digits or "
+         "capital letters"},
         {"det/imposto/ISSQN/cListServ", "1", "text 5", "2 digits, \".\", 2 digits"},
     };
     for (const auto& row : rows) {
