@@ -88,6 +88,7 @@ TEST(access_key, is_compared_part_by_part) {
 TEST(access_key, may_be_anything) {
     for (const std::string key : {"", "4", "41260899317482000175550010000186421409173560000",
                                   "4126089931748200017555001000018642140917356A",
+                                  "412608993174820001A5550010000186421409173560",
                                   "A1260899317482000175550010000186421409173560", "ção"}) {
         const std::vector<key_fault> faults = key_faults(tree_of("infNFe", key_texts(key)).root());
         ASSERT_EQ(faults.size(), 1U) << key;

@@ -9,21 +9,20 @@
 
 namespace nfe_summary {
 
-namespace layout = kivo::erp::v12::layout;
-
 namespace {
 
 using json = nlohmann::ordered_json;
 
-/// A list with an element on each line.
-std::string list(const std::vector<json>& elements) {
-    std::string lines;
+/// A list, where there is room with an element on each line.
+std::string list(const std::vector<json>& elements, spread how) {
+    std::string result;
     for (const json& element : elements) {
-        lines += lines.empty() ? "\n" : ",\n";
+        result += result.empty() ? "" : ",";
+        result += how == spread::readable ? "\n" : "";
         // a byte that is not UTF-8 has no place in JSON
-        lines += element.dump(-1, ' ', false, json::error_handler_t::replace);
+        result += element.dump(-1, ' ', false, json::error_handler_t::replace);
     }
-    return '[' + lines + ']';
+    return '[' + result + ']';
 }
 
 std::vector<json> remarks(const std::vector<layout::report::remark>& told) {
@@ -56,30 +55,44 @@ layout::tree beside_invoice(const layout::tree& document) {
 
 } // namespace
 
-void write_json(const layout::invoice_document& document) {
+std::string json_of(const std::string& file, const layout::tree& tree,
+                    const layout::invoice_document& document, spread how) {
+    layout::path_teller path(tree.root());
+    const std::string invoice = path(layout::invoice_in(tree));
     std::vector<json> texts;
-    const layout::tree written = layout::write_tree(document.invoice, document.outside);
-    for (const auto& placed : layout::texts_of(written.root())) {
-        texts.push_back({{"path", placed.path}, {"text", placed.text}});
+    std::vector<json> beside;
+    for (const auto& placed : layout::texts_of(tree.root())) {
+        if (placed.path.starts_with(invoice + '/')) {
+            texts.push_back(
+                {{"path", placed.path.substr(invoice.size() + 1)}, {"text", placed.text}});
+        } else {
+            beside.push_back({{"path", placed.path}, {"text", placed.text}});
+        }
     }
     const layout::report& told = document.report;
-    const std::string whole = fmt::format(
-        R"({{"texts": {},
-"without_field": {},
-"refused": {},
-"written_otherwise": {},
-"without_room": {},
-"added": {},
-"beside": {}}})",
-        list(texts), list({told.without_field.begin(), told.without_field.end()}),
-        list(remarks(told.refused)), list(remarks(told.written_otherwise)),
-        list(remarks(told.without_room)), list(remarks(told.added)),
-        list({document.beside.begin(), document.beside.end()}));
-    fmt::print("{}\n", escaped(whole, "\\u", ""));
+    std::string result = "{";
+    const auto add = [&](const char* name, const std::string& value) {
+        result += result.size() == 1 ? "" : how == spread::readable ? ",\n" : ",";
+        result += fmt::format("{}: {}", json(name).dump(), value);
+    };
+    const auto text = [](const std::string& value) {
+        return json(value).dump(-1, ' ', false, json::error_handler_t::replace);
+    };
+    add("file", text(file));
+    add("root", text(std::string(tree.root().name.text())));
+    add("invoice", text(invoice));
+    add("texts", list(texts, how));
+    add("beside", list(beside, how));
+    add("without_field", list({told.without_field.begin(), told.without_field.end()}, how));
+    add("refused", list(remarks(told.refused), how));
+    add("written_otherwise", list(remarks(told.written_otherwise), how));
+    add("without_room", list(remarks(told.without_room), how));
+    add("added", list(remarks(told.added), how));
+    return harmless_json(result + '}');
 }
 
-void write_xml(const layout::invoice_document& document) {
-    fmt::print("{}\n", escaped(layout::write_xml(document.invoice, document.outside), "&#x", ";"));
+std::string xml_of(const layout::invoice_document& document) {
+    return harmless_xml(layout::write_xml(document.invoice, document.outside));
 }
 
 bool write_differences(const std::string& left_path, const layout::tree& left,

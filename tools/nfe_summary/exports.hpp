@@ -1,23 +1,29 @@
 #pragma once
 
-#include <layout/xml.hpp>
+#include "source.hpp"
 
 #include <string>
 
-/// An invoice for other programs. What is written holds every text, but nothing that steers a
+/// An invoice for other programs. What is made holds every text, but nothing that steers a
 /// terminal.
 namespace nfe_summary {
 
-/// The whole content as pairs of path and text in the layout's order, and what became of the rest.
-void write_json(const kivo::erp::v12::layout::invoice_document& document);
+/// How a document stands in a text.
+enum class spread {
+    readable, ///< a path and its text on each line
+    one_line, ///< as JSON Lines want it
+};
+
+/// All texts of a document with their paths, and what became of them in the objects.
+std::string json_of(const std::string& file, const layout::tree& tree,
+                    const layout::invoice_document& document, spread how);
 
 /// An unsigned document.
-void write_xml(const kivo::erp::v12::layout::invoice_document& document);
+std::string xml_of(const layout::invoice_document& document);
 
-/// The texts in which two documents differ, by path: those of the first behind -, those of the
-/// second behind +.
-/// Answers whether there are any.
-bool write_differences(const std::string& left_path, const kivo::erp::v12::layout::tree& left,
-                       const std::string& right_path, const kivo::erp::v12::layout::tree& right);
+/// Writes the texts in which two documents differ, by path: those of the first behind -, those of
+/// the second behind +. Answers whether there are any.
+bool write_differences(const std::string& left_path, const layout::tree& left,
+                       const std::string& right_path, const layout::tree& right);
 
 } // namespace nfe_summary

@@ -1,127 +1,261 @@
 // Reads NF-e and NFC-e files into value objects and shows a person what they hold.
 
+#include "content.hpp"
+#include "csv.hpp"
 #include "exports.hpp"
+#include "faults.hpp"
+#include "in_order.hpp"
+#include "language.hpp"
+#include "options.hpp"
 #include "overview.hpp"
 #include "reading.hpp"
 #include "show.hpp"
+#include "source.hpp"
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <exception>
-#include <filesystem>
+#include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace nfe_summary {
 
 namespace {
 
-struct arguments {
-    std::vector<std::string> paths;
-    bool json = false;
-    bool xml = false;
-    bool diff = false;
-    std::size_t width = 0; // 0: the terminal's
-};
-
-/// Tells the refused texts of a file on standard error. Answers the status.
-int tell_refusals(const std::string& path, const layout::report& told) {
-    for (const std::string& refusal : refusals(told)) {
-        complain(path, refusal);
+/// A file that a single one is asked for; what is wrong with it names it.
+source single_of(const std::string& path, std::size_t limit) {
+    try {
+        return read_single(path, limit);
+    } catch (const std::exception& failure) {
+        throw std::runtime_error(path + ": " + failure.what());
     }
-    return told.refused.empty() ? 0 : 1;
 }
 
-/// Tells on standard error in what a file differs from what was written of it.
-int tell_changes(const std::string& path, const layout::report& told) {
-    const std::vector<std::string> lost = paths_without_field(told);
-    if (!lost.empty()) {
-        complain(path, "left out, without a field: " + joined(lost));
+/// Tells the refused texts of an invoice on standard error. Answers the status.
+int tell_refusals(const std::string& name, const layout::report& told) {
+    for (const std::string& refusal : refusals(told)) {
+        complain(name, refusal);
     }
-    for (const std::string& change : changes(told)) {
+    return told.refused.empty() ? all_well : something_told;
+}
+
+int run_xml(const arguments& given) {
+    const std::string& path = given.paths.front();
+    const source file = single_of(path, given.limit);
+    layout::invoice_document document;
+    std::string xml;
+    try {
+        document = read_invoice(*file.invoices.front());
+        xml = xml_of(document);
+    } catch (const std::exception& failure) {
+        throw std::runtime_error(path + ": " + translated(failure.what()));
+    }
+    fmt::print("{}\n", xml);
+    const std::vector<std::string> lost = paths_without_field(document.report);
+    if (!lost.empty()) {
+        complain(path, say("left out, without a field: {}", joined(lost)));
+    }
+    for (const std::string& change : changes(document.report)) {
         complain(path, change);
     }
-    return tell_refusals(path, told);
-}
-
-int run_json(const std::string& path) {
-    const layout::invoice_document document = layout::read_file(path);
-    write_json(document);
     return tell_refusals(path, document.report);
 }
 
-int run_xml(const std::string& path) {
-    const layout::invoice_document document = layout::read_file(path);
-    write_xml(document);
-    return tell_changes(path, document.report);
+int run_differences(const arguments& given) {
+    const std::string& left_path = given.paths.front();
+    const std::string& right_path = given.paths.back();
+    const source left = single_of(left_path, given.limit);
+    const source right = single_of(right_path, given.limit);
+    const bool differ =
+        write_differences(left_path, *left.invoices.front(), right_path, *right.invoices.front());
+    return differ ? something_told : all_well;
 }
 
-int run_diff(const std::string& left_path, const std::string& right_path) {
-    const bool differ = write_differences(left_path, layout::parse_file(left_path), right_path,
-                                          layout::parse_file(right_path));
-    return differ ? 1 : 0;
+/// What is written of a file, and what is told beside it.
+struct written_file {
+    std::string text;
+    std::vector<std::pair<std::string, std::string>> complaints;
+    int status = all_well;
+
+    void fail(const std::string& name, const std::string& reason) {
+        complaints.emplace_back(name, reason);
+        status = trouble;
+    }
+};
+
+/// Writes something of each invoice, in their order. Files are read on all cores.
+template <class Write>
+int write_each(const std::vector<std::string>& paths, std::size_t limit, Write write) {
+    int status = all_well;
+    make_in_order(
+        paths.size(),
+        [&](std::size_t index) {
+            const std::string& path = paths[index];
+            written_file made;
+            source file;
+            try {
+                file = read_source(path, limit);
+            } catch (const std::exception& failure) {
+                made.fail(path, failure.what());
+            }
+            for (std::size_t place = 0; place < file.invoices.size(); ++place) {
+                const std::string name = name_in(path, file, place);
+                try {
+                    write(name, *file.invoices[place], file.invoices.size() > 1, made);
+                } catch (const std::exception& failure) {
+                    made.fail(name, failure.what());
+                }
+            }
+            if (made.status == all_well && file.invoices.empty()) {
+                made.complaints.emplace_back(path, tr("holds no invoice, but what belongs to one"));
+            }
+            return made;
+        },
+        [&](std::size_t, written_file&& made) {
+            fmt::print("{}", made.text);
+            for (const auto& [name, reason] : made.complaints) {
+                complain(name, reason);
+            }
+            status = std::max(status, made.status);
+        });
+    return status;
 }
 
-int run_show(const arguments& given) {
+int run_json(const arguments& given, const file_list& files) {
+    const bool many = files.paths.size() > 1 || is_folder(given.paths.front());
+    return write_each(
+        files.paths, given.limit,
+        [&](const std::string& name, const layout::tree& tree, bool several, written_file& made) {
+            const layout::invoice_document document = read_invoice(tree);
+            made.text += json_of(name, tree, document,
+                                 many || several ? spread::one_line : spread::readable) +
+                         '\n';
+            for (const std::string& refusal : refusals(document.report)) {
+                made.complaints.emplace_back(name, refusal);
+                made.status = std::max(made.status, something_told);
+            }
+        });
+}
+
+int run_check(const arguments& given, const file_list& files) {
+    return write_each(
+        files.paths, given.limit,
+        [](const std::string& name, const layout::tree& tree, bool, written_file& made) {
+            for (const std::string& fault : faults_of(tree)) {
+                made.text += harmless(name + ": " + fault) + '\n';
+                made.status = std::max(made.status, something_told);
+            }
+        });
+}
+
+/// Tells what could not be read. Answers the status.
+int tell_failures(const survey& all) {
+    int status = all_well;
+    for (const surveyed& invoice : all.invoices) {
+        if (!invoice.failure.empty()) {
+            complain(invoice.file, invoice.failure);
+            status = trouble;
+        } else if (invoice.refused) {
+            status = std::max(status, something_told);
+        }
+    }
+    return status;
+}
+
+int run_csv(const arguments& given, const file_list& files) {
+    const survey all = survey_of(files.paths, given.limit,
+                                 given.items ? survey_detail::item_rows : survey_detail::rows);
+    write_csv(all, given.items);
+    return tell_failures(all);
+}
+
+/// A file alone: an invoice as a whole, or an event.
+int show_file(const page& out, const std::string& path, const source& file) {
+    if (file.invoices.empty()) {
+        for (const layout::event& event : file.events) {
+            show_event(out, event);
+        }
+        for (const layout::protocol& answer : file.answers) {
+            show_answer(out, answer);
+        }
+        return all_well;
+    }
+    try {
+        const layout::tree& tree = *file.invoices.front();
+        const layout::invoice_document document = read_invoice(tree);
+        show(out, tree, document);
+        return document.report.refused.empty() ? all_well : something_told;
+    } catch (const std::exception& failure) {
+        complain(path, failure.what());
+        return trouble;
+    }
+}
+
+int run_summary(const arguments& given, const file_list& files) {
     const page terminal = page::of_terminal();
     const page out = given.width == 0 ? terminal : terminal.as_wide_as(given.width);
     const std::string& first = given.paths.front();
-    std::error_code ignored; // what is not there is told when it is read
-    if (given.paths.size() > 1 || std::filesystem::is_directory(first, ignored)) {
-        const file_list files = files_of(given.paths);
-        const int status = show_overview(out, files.paths);
-        return files.complete ? status : 1;
+    if (given.paths.size() == 1 && given.by == grouping::none && !is_folder(first)) {
+        source file;
+        try {
+            file = read_source(first, given.limit);
+        } catch (const std::exception& failure) {
+            complain(first, failure.what());
+            return trouble;
+        }
+        const std::size_t parts = file.invoices.size() + file.events.size() + file.answers.size();
+        if (parts == 1 || file.invoices.empty()) {
+            return show_file(out, first, file);
+        }
+        const survey all = survey_of(first, std::move(file), survey_detail::invoices);
+        show_overview(out, all);
+        return tell_failures(all);
     }
-    const layout::invoice_document document = layout::read_file(first);
-    show(out, document);
-    return document.report.refused.empty() ? 0 : 1;
+    const bool items = given.by == grouping::cfop || given.by == grouping::ncm;
+    const survey all =
+        survey_of(files.paths, given.limit, items ? survey_detail::items : survey_detail::invoices);
+    const int status = tell_failures(all);
+    given.by == grouping::none ? show_overview(out, all) : show_groups(out, all, given.by);
+    return status;
 }
 
-void check(const arguments& given) {
-    if (given.paths.empty()) {
-        throw CLI::ValidationError("a file is needed");
+int run(const arguments& given) {
+    if (given.help) {
+        fmt::print("{}", help_text());
+        return all_well;
     }
-    if ((given.json && (given.xml || given.diff)) || (given.xml && given.diff)) {
-        throw CLI::ValidationError("only one of --json, --xml and --diff");
+    if (given.version) {
+        fmt::print("nfe_summary {}\n", NFE_SUMMARY_VERSION);
+        return all_well;
     }
-    if (given.diff && given.paths.size() != 2) {
-        throw CLI::ValidationError("--diff takes two files");
+    if (given.wanted == output::xml) {
+        return run_xml(given);
     }
-    if ((given.json || given.xml) && given.paths.size() != 1) {
-        throw CLI::ValidationError("--json and --xml take one file");
+    if (given.wanted == output::differences) {
+        return run_differences(given);
     }
+    const file_list files = files_of(given.paths);
+    const int status = given.wanted == output::json     ? run_json(given, files)
+                       : given.wanted == output::faults ? run_check(given, files)
+                       : given.wanted == output::csv    ? run_csv(given, files)
+                                                        : run_summary(given, files);
+    return files.complete ? status : trouble;
 }
 
 int parse_and_run(int argc, char** argv) {
-    arguments given;
-    CLI::App app("Shows NF-e and NFC-e files to a person: one file whole, several files or folders "
-                 "with a\nline for each and their sum.",
-                 "nfe_summary");
-    app.add_option("FILE", given.paths, "XML files, or folders of them")->type_name("");
-    app.add_flag("--json", given.json, "Write the whole content of a file, as paths and texts");
-    app.add_flag("--xml", given.xml, "Write the invoice of a file as an unsigned XML document");
-    app.add_flag("--diff", given.diff, "Write what differs between two files, by path");
-    app.add_option("--width", given.width, "Columns to fill, from 40, instead of the terminal's")
-        ->check(CLI::Range(40, 10'000).description(""))
-        ->type_name("N");
-    app.footer("Ends with status 0; with 1 where a file cannot be read, a field cannot hold a "
-               "text, or\ntwo files differ.");
-    app.failure_message([](const CLI::App*, const CLI::Error& error) {
-        return "nfe_summary: " + harmless(error.what()) + "; --help tells more\n";
-    });
+    choose_language("");
     try {
-        app.parse(argc, argv);
-        check(given);
-    } catch (const CLI::ParseError& outcome) {
-        return app.exit(outcome) == 0 ? 0 : 1;
+        return run(read_arguments(argc, argv));
+    } catch (const usage_error& wrong) {
+        complain(say("{}; --help tells more", wrong.what()));
+    } catch (const std::exception& failure) {
+        complain(failure.what());
     }
-    const std::string& first = given.paths.front();
-    return given.json   ? run_json(first)
-           : given.xml  ? run_xml(first)
-           : given.diff ? run_diff(first, given.paths.back())
-                        : run_show(given);
+    return trouble;
 }
 
 } // namespace
@@ -129,15 +263,10 @@ int parse_and_run(int argc, char** argv) {
 } // namespace nfe_summary
 
 int main(int argc, char** argv) {
-    try {
-        const int status = nfe_summary::parse_and_run(argc, argv);
-        if (std::fflush(stdout) != 0) {
-            nfe_summary::complain("standard output", "cannot be written");
-            return 1;
-        }
-        return status;
-    } catch (const std::exception& failure) {
-        nfe_summary::complain(failure.what());
+    const int status = nfe_summary::parse_and_run(argc, argv);
+    if (std::fclose(stdout) != 0) {
+        nfe_summary::complain(nfe_summary::tr("the output cannot be written"));
+        return nfe_summary::trouble;
     }
-    return 1;
+    return status;
 }

@@ -4,7 +4,8 @@
 
 #include <string>
 
-/// Short meanings of the codes that a person wants to read; another code is told by its number.
+/// Short meanings of the codes that a person wants to read, in the chosen language. A code without
+/// a name is told by its number; the default of a field whose code 0 is none has no text.
 namespace nfe_summary {
 
 namespace fiscal = kivo::erp::v12::fiscal;

@@ -1,179 +1,291 @@
 #include "overview.hpp"
 
-#include "reading.hpp"
+#include "language.hpp"
 #include "table.hpp"
-#include "values.hpp"
-
-#include <layout/xml.hpp>
 
 #include <fmt/format.h>
 
-#include <unistd.h>
-
-#include <algorithm>
-#include <atomic>
-#include <exception>
-#include <filesystem>
-#include <optional>
-#include <thread>
+#include <map>
+#include <tuple>
+#include <utility>
 
 namespace nfe_summary {
 
 namespace {
 
-struct found_invoice {
-    std::string key;
-    std::string number;
-    std::string date;
-    std::string issuer;
-    std::string recipient;
-    fiscal::decimal total;
-    std::string problems;
-    bool refused = false;
-    std::string failure; // why the file cannot be read; the rest is empty then
+/// Why an invoice is not summed with the others; empty where it is.
+std::string mark_of(validity valid) {
+    switch (valid) {
+    case validity::authorised:
+        return "";
+    case validity::unauthorised:
+        return tr("without authorisation");
+    case validity::cancelled:
+        return tr("cancelled");
+    case validity::denied:
+        return tr("denied");
+    case validity::rejected:
+        return tr("rejected");
+    case validity::test:
+        return tr("test environment");
+    }
+    return "";
+}
+
+std::string mark_of(nature kind) {
+    switch (kind) {
+    case nature::regular:
+        return "";
+    case nature::inbound:
+        return tr("inbound");
+    case nature::complement:
+        return tr("complement");
+    case nature::adjustment:
+        return tr("adjustment");
+    case nature::returned:
+        return tr("return");
+    case nature::credit_note:
+        return tr("credit note");
+    case nature::debit_note:
+        return tr("debit note");
+    }
+    return "";
+}
+
+std::string marks_of(const surveyed& invoice) {
+    return joined(
+        {invoice.repeated ? tr("repeated") : "", mark_of(invoice.valid), mark_of(invoice.kind)});
+}
+
+/// What sets a sum apart: invoices that do not count are summed, each kind for itself.
+using share = std::pair<validity, nature>;
+
+share share_of(const surveyed& invoice) { return {invoice.valid, invoice.kind}; }
+
+std::string name_of(const share& which) {
+    return joined({mark_of(which.first), mark_of(which.second)});
+}
+
+struct counted_sum {
+    std::size_t count = 0;
+    decimal_sum total;
+
+    void add(const fiscal::decimal& value) {
+        ++count;
+        total.add(value);
+    }
 };
 
-found_invoice read(const std::string& path) {
-    found_invoice found;
-    try {
-        const layout::invoice_document document = layout::read_file(path);
-        const fiscal::nota_fiscal& invoice = document.invoice;
-        const auto recipient = invoice.get_destinatario();
-        found.key = invoice.get_chave_44_digitos();
-        found.number = fmt::to_string(invoice.get_numero());
-        found.date = day(invoice.get_data_emissao().day());
-        found.issuer = invoice.get_emitente().get_razao_social();
-        found.recipient = recipient ? recipient->get_razao_social().value_or("") : "";
-        found.total = invoice.get_total_nfe().get_total_icms().get_total_da_nota();
-        found.problems = problems(document.report);
-        found.refused = !document.report.refused.empty();
-    } catch (const std::exception& failure) {
-        found.failure = failure.what();
-    }
-    return found;
+/// `AAAA-MM-DDT...` as `DD/MM/AAAA`.
+std::string day_text(const std::string& issued) {
+    const std::string whole = time_text(issued);
+    return whole == issued ? issued : whole.substr(0, 10);
 }
 
-class progress {
-public:
-    explicit progress(std::size_t total) : total_(total) {}
-    ~progress() {
-        if (shown_) {
-            fmt::print(stderr, "\r\x1b[K");
-        }
-    }
-    progress(const progress&) = delete;
-    progress& operator=(const progress&) = delete;
-
-    /// From any thread: one more file has been read.
-    void step() {
-        const std::size_t done = ++done_;
-        if (shown_ && done * 100 / total_ != (done - 1) * 100 / total_) {
-            fmt::print(stderr, "\r{} of {} files", done, total_);
-        }
-    }
-
-private:
-    std::size_t total_;
-    bool shown_ = isatty(STDERR_FILENO) != 0;
-    std::atomic<std::size_t> done_ = 0;
-};
-
-std::vector<found_invoice> read_all(const std::vector<std::string>& paths) {
-    std::vector<found_invoice> found(paths.size());
-    std::atomic<std::size_t> next = 0;
-    progress shown(paths.size());
-    const auto read_some = [&] {
-        for (std::size_t index = next++; index < paths.size(); index = next++) {
-            found[index] = read(paths[index]);
-            shown.step();
-        }
-    };
-    std::vector<std::jthread> others;
-    const std::size_t cores = std::max(1U, std::thread::hardware_concurrency());
-    for (std::size_t count = 1; count < std::min(cores, paths.size()); ++count) {
-        others.emplace_back(read_some);
-    }
-    read_some();
-    others.clear(); // waits for them
-    return found;
-}
-
-/// Adds the .xml files below a folder; false where a folder cannot be listed.
-bool add_files(const std::filesystem::path& folder, std::vector<std::string>& paths) {
-    std::error_code error;
-    bool complete = true;
-    for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
-         entry.increment(error)) {
-        std::error_code ignored; // what is not there any more is neither
-        const std::string extension = entry->path().extension().string();
-        if (entry->is_directory(ignored) && !entry->is_symlink(ignored)) {
-            complete = add_files(entry->path(), paths) && complete;
-        } else if ((extension == ".xml" || extension == ".XML") &&
-                   entry->is_regular_file(ignored)) {
-            paths.push_back(entry->path().string());
-        }
-    }
-    if (error) {
-        complain(folder.string(), error.message());
-    }
-    return complete && !error;
-}
-
-} // namespace
-
-file_list files_of(const std::vector<std::string>& arguments) {
-    file_list files;
-    for (const std::string& argument : arguments) {
-        std::error_code ignored; // what is not there is told when it is read
-        if (!std::filesystem::is_directory(argument, ignored)) {
-            files.paths.push_back(argument);
-            continue;
-        }
-        std::vector<std::string> below;
-        files.complete = add_files(argument, below) && files.complete;
-        std::sort(below.begin(), below.end());
-        files.paths.insert(files.paths.end(), below.begin(), below.end());
-    }
-    return files;
-}
-
-int show_overview(const page& out, const std::vector<std::string>& paths) {
-    table shown({{"Key", false, 3},
-                 {"Number", true},
-                 {"Date"},
-                 {"Issuer", false, 0, 16},
-                 {"Recipient", false, 2, 16},
-                 {"Total", true},
-                 {"Problems", false, 1, 10},
-                 {"File", false, 4}});
-    decimal_sum sum;
-    std::size_t unreadable = 0;
-    std::size_t refused = 0;
-    const std::vector<found_invoice> all = read_all(paths);
-    for (std::size_t index = 0; index < all.size(); ++index) {
-        const found_invoice& found = all[index];
-        if (!found.failure.empty()) {
-            complain(found.failure);
-            ++unreadable;
-            continue;
-        }
-        shown.add({found.key, found.number, found.date, found.issuer, found.recipient,
-                   amount(found.total), found.problems, paths[index]});
-        sum.add(found.total);
-        refused += found.refused ? 1 : 0;
-    }
+void show_table(const page& out, const table& shown) {
     const std::vector<std::string> lines = shown.lines(out.width);
     for (std::size_t index = 0; lines.size() > 1 && index < lines.size(); ++index) {
         index == 0 ? out.heading(lines[index]) : page::line(lines[index]);
     }
     out.left_out(shown.left_out(out.width));
-    const auto if_any = [](std::size_t count, std::string_view what) {
-        return count == 0 ? "" : fmt::format("{} {}", count, what);
-    };
-    out.heading(
-        joined({fmt::format("Invoices: {}", all.size() - unreadable), labelled("total", sum.text()),
-                if_any(refused, "with refused texts"), if_any(unreadable, "not read")}));
-    return unreadable == 0 && refused == 0 ? 0 : 1;
+}
+
+/// The sums, one for each share; what is in none of them is counted.
+void show_sums(const page& out, const survey& all) {
+    std::map<share, counted_sum> sums{{{validity::authorised, nature::regular}, {}}};
+    std::size_t repeated = 0;
+    std::size_t failed = 0;
+    for (const surveyed& invoice : all.invoices) {
+        failed += invoice.failure.empty() ? 0 : 1;
+        repeated += invoice.repeated ? 1 : 0;
+        if (invoice.counts()) {
+            sums[share_of(invoice)].add(invoice.total);
+        }
+    }
+    table shown({{tr("Sums")}, {tr("Invoices"), true}, {tr("Total"), true}});
+    for (const auto& [which, sum] : sums) {
+        const std::string name = name_of(which);
+        shown.add(
+            {name.empty() ? tr("authorised") : name, fmt::to_string(sum.count), sum.total.text()});
+    }
+    if (repeated != 0) {
+        shown.add({tr("repeated, not summed"), fmt::to_string(repeated), ""});
+    }
+    if (failed != 0) {
+        shown.add({tr("not read"), fmt::to_string(failed), ""});
+    }
+    show_table(out, shown);
+}
+
+/// What is to be told of files that hold no invoice.
+void show_others(const page& out, const survey& all) {
+    for (const surveyed_event& event : all.events) {
+        if (!event.has_invoice) {
+            out.note(fmt::format("{}: {}", event.file,
+                                 say("{}; its invoice {} is not among the files",
+                                     event_text(event.told), event.told.key)));
+        }
+    }
+    for (const surveyed_answer& answer : all.answers) {
+        if (!answer.has_invoice) {
+            out.note(fmt::format("{}: {}", answer.file,
+                                 say("{} {}; its invoice {} is not among the files",
+                                     answer.told.status, answer.told.reason, answer.told.key)));
+        }
+    }
+}
+
+} // namespace
+
+void show_overview(const page& out, const survey& all) {
+    table shown({{tr("Key"), false, 3},
+                 {tr("Number"), true},
+                 {tr("Date")},
+                 {tr("Issuer"), false, 0, 14},
+                 {tr("Recipient"), false, 2, 14},
+                 {tr("Total"), true},
+                 {tr("Marks"), false, 0, 10},
+                 {tr("File"), false, 4}});
+    std::vector<const surveyed*> in_table;
+    for (const surveyed& invoice : all.invoices) {
+        if (invoice.failure.empty()) {
+            shown.add({invoice.key, invoice.number, day_text(invoice.issued), invoice.issuer.name,
+                       invoice.recipient.name, amount(invoice.total), marks_of(invoice),
+                       invoice.file});
+            in_table.push_back(&invoice);
+        }
+    }
+    const std::vector<std::string> lines = shown.lines(out.width);
+    for (std::size_t index = 0; index < lines.size(); ++index) {
+        if (index == 0) {
+            if (!in_table.empty()) {
+                out.heading(lines[index]);
+            }
+            continue;
+        }
+        page::line(lines[index]);
+        const surveyed& invoice = *in_table[index - 1];
+        for (const std::string& problem : invoice.problems) {
+            out.note(fmt::format("{}: {}", invoice.file, problem));
+        }
+        for (const std::string& told : invoice.notes) {
+            out.note(fmt::format("{}: {}", invoice.file, told));
+        }
+    }
+    out.left_out(shown.left_out(out.width));
+    show_others(out, all);
+    page::line("");
+    show_sums(out, all);
+}
+
+namespace {
+
+/// What a line of groups is for: its key first, for the order.
+struct group {
+    std::string id;
+    share which;
+    bool outside = false; ///< items that are not part of a total
+
+    auto operator<=>(const group&) const = default;
+};
+
+struct group_sums {
+    std::string name;
+    counted_sum values;
+    decimal_sum icms;
+    decimal_sum ipi;
+};
+
+using groups = std::map<group, group_sums>;
+
+groups groups_of_invoices(const survey& all, grouping by) {
+    groups result;
+    for (const surveyed& invoice : all.invoices) {
+        if (!invoice.counts()) {
+            continue;
+        }
+        const party& whose = by == grouping::issuer ? invoice.issuer : invoice.recipient;
+        const bool month = by == grouping::month;
+        group_sums& sums =
+            result[{month ? invoice.issued.substr(0, 7) : whose.id, share_of(invoice)}];
+        sums.name = month ? "" : whose.name;
+        sums.values.add(invoice.total);
+    }
+    return result;
+}
+
+groups groups_of_items(const survey& all, grouping by) {
+    groups result;
+    for (const surveyed& invoice : all.invoices) {
+        for (const surveyed_item& item : invoice.items) {
+            if (!invoice.counts()) {
+                continue;
+            }
+            group_sums& sums = result[{by == grouping::cfop ? item.cfop : item.ncm,
+                                       share_of(invoice), !item.counts}];
+            sums.values.add(item.value);
+            sums.icms.add(item.icms);
+            sums.ipi.add(item.ipi);
+        }
+    }
+    return result;
+}
+
+std::string heading_of(grouping by) {
+    switch (by) {
+    case grouping::issuer:
+        return tr("Issuer");
+    case grouping::recipient:
+        return tr("Recipient");
+    case grouping::month:
+        return tr("Month");
+    case grouping::cfop:
+        return "CFOP";
+    case grouping::ncm:
+        return "NCM";
+    case grouping::none:
+        break;
+    }
+    return "";
+}
+
+} // namespace
+
+void show_groups(const page& out, const survey& all, grouping by) {
+    const bool items = by == grouping::cfop || by == grouping::ncm;
+    table shown({{heading_of(by)},
+                 {tr("Name"), false, 0, 16},
+                 {tr("Marks"), false, 0, 10},
+                 {items ? tr("Items") : tr("Invoices"), true},
+                 {items ? tr("Products") : tr("Total"), true},
+                 {"ICMS", true, 1},
+                 {"IPI", true, 2}});
+    for (const auto& [which, sums] :
+         items ? groups_of_items(all, by) : groups_of_invoices(all, by)) {
+        shown.add({which.id, sums.name,
+                   joined({name_of(which.which), which.outside ? tr("outside the total") : ""}),
+                   fmt::to_string(sums.values.count), sums.values.total.text(), sums.icms.text(),
+                   sums.ipi.text()});
+    }
+    show_table(out, shown);
+    for (const surveyed& invoice : all.invoices) {
+        for (const std::string& problem : invoice.problems) {
+            out.note(fmt::format("{}: {}", invoice.file, problem));
+        }
+    }
+    show_others(out, all);
+    page::line("");
+    show_sums(out, all);
+}
+
+grouping grouping_of(const std::string& word) {
+    const std::map<std::string, grouping> known{{"issuer", grouping::issuer},
+                                                {"recipient", grouping::recipient},
+                                                {"month", grouping::month},
+                                                {"cfop", grouping::cfop},
+                                                {"ncm", grouping::ncm}};
+    const auto found = known.find(word);
+    return found == known.end() ? grouping::none : found->second;
 }
 
 } // namespace nfe_summary

@@ -1,22 +1,24 @@
 #pragma once
 
 #include "page.hpp"
+#include "survey.hpp"
 
 #include <string>
-#include <vector>
 
 namespace nfe_summary {
 
-/// The files that arguments name: each as it is, of a folder those below it whose name ends in
-/// .xml, in the order of their names. What cannot be listed is told on standard error.
-struct file_list {
-    std::vector<std::string> paths;
-    bool complete = true;
-};
-file_list files_of(const std::vector<std::string>& arguments);
+/// By what invoices are summed.
+enum class grouping { none, issuer, recipient, month, cfop, ncm };
 
-/// Shows a line for each invoice, and their sum; the files are read on all cores. A file that
-/// cannot be read is told on standard error. Answers the status with which the program ends.
-int show_overview(const page& out, const std::vector<std::string>& paths);
+/// Shows a line for each invoice and what is to be told of it, and their sums: those that count
+/// apart from those that do not.
+void show_overview(const page& out, const survey& all);
+
+/// Shows a line for each issuer, month and so on instead.
+void show_groups(const page& out, const survey& all, grouping by);
+
+/// What --by takes.
+inline constexpr const char* groupings = "issuer recipient month cfop ncm";
+grouping grouping_of(const std::string& word);
 
 } // namespace nfe_summary

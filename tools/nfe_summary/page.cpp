@@ -1,5 +1,7 @@
 #include "page.hpp"
 
+#include "language.hpp"
+
 #include <fmt/color.h>
 #include <fmt/format.h>
 
@@ -65,7 +67,8 @@ void page::fields(std::string_view label, const std::vector<std::string>& texts)
 
 void page::note(std::string_view text) const {
     constexpr std::size_t indent = 4;
-    for (const std::string& part : wrapped(harmless(text), width - indent)) {
+    const std::size_t room = width == unlimited ? unlimited : width - indent;
+    for (const std::string& part : wrapped(harmless(text), room)) {
         line(std::string(indent, ' ') + part);
     }
 }
@@ -96,7 +99,7 @@ void page::amounts(const std::vector<labelled_amount>& shown) const {
 
 void page::left_out(const std::vector<std::string>& headings) const {
     if (!headings.empty()) {
-        note("(no place for: " + joined(headings) + ")");
+        note(say("(no place for: {})", joined(headings)));
     }
 }
 

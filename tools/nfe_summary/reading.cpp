@@ -1,6 +1,6 @@
 #include "reading.hpp"
 
-#include <fmt/format.h>
+#include "language.hpp"
 
 #include <map>
 #include <string_view>
@@ -32,7 +32,7 @@ std::vector<std::string> counted_by_name(const std::vector<std::string>& full_pa
     }
     for (std::string& path : paths) {
         const std::size_t count = counts[path];
-        path += count == 1 ? "" : fmt::format(" ({} times)", count);
+        path += count == 1 ? "" : say(" ({} times)", count);
     }
     return paths;
 }
@@ -45,7 +45,7 @@ std::vector<std::string> shortened_list(const page& out, std::vector<std::string
     if (out.width != unlimited && texts.size() > longest) {
         const std::size_t more = texts.size() - longest;
         texts.resize(longest);
-        texts.push_back(fmt::format("and {} more", more));
+        texts.push_back(say("and {} more", more));
     }
     return texts;
 }
@@ -59,8 +59,8 @@ std::vector<std::string> paths_without_field(const layout::report& told) {
 std::vector<std::string> refusals(const layout::report& told) {
     std::vector<std::string> texts;
     for (const auto& refused : told.refused) {
-        texts.push_back(fmt::format("{}: {} is not {}", refused.path, in_quotes(refused.text),
-                                    refused.instead));
+        texts.push_back(say("{}: {} is not {}", refused.path, in_quotes(refused.text),
+                            translated(refused.instead)));
     }
     return texts;
 }
@@ -68,42 +68,30 @@ std::vector<std::string> refusals(const layout::report& told) {
 std::vector<std::string> changes(const layout::report& told) {
     std::vector<std::string> texts;
     for (const auto& changed : told.written_otherwise) {
-        texts.push_back(changed.text.empty()
-                            ? fmt::format("{} is written at {}", changed.path, changed.instead)
-                            : fmt::format("{}: {} is written as {}", changed.path,
-                                          in_quotes(changed.text), in_quotes(changed.instead)));
+        texts.push_back(
+            changed.text.empty()
+                ? say("{} is written elsewhere: {}", changed.path, translated(changed.instead))
+                : say("{}: {} is written as {}", changed.path, in_quotes(changed.text),
+                      in_quotes(changed.instead)));
     }
     for (const auto& lost : told.without_room) {
-        texts.push_back(fmt::format("{}: no room for {}", lost.path, in_quotes(lost.text)));
+        texts.push_back(say("{}: no room for {}", lost.path, in_quotes(lost.text)));
     }
     for (const auto& added : told.added) {
-        texts.push_back(
-            fmt::format("{}: {} is written in addition", added.path, in_quotes(added.instead)));
+        texts.push_back(say("{}: {} is written in addition", added.path, in_quotes(added.instead)));
     }
     return texts;
 }
 
-std::string problems(const layout::report& told) {
-    const auto counted = [](std::size_t count, std::string_view what) {
-        return count == 0 ? "" : fmt::format("{} {}", count, what);
-    };
-    return joined({counted(told.refused.size(), "refused"),
-                   counted(told.written_otherwise.size(), "written otherwise"),
-                   counted(told.without_room.size(), "without room"),
-                   counted(told.added.size(), "added"),
-                   counted(told.without_field.size(), "left out")});
-}
-
 void show_reading(const page& out, const layout::invoice_document& document) {
     const layout::report& told = document.report;
-    out.field(
-        "File",
-        fmt::format("{} of the invoice's {} elements have found their place; --json lists them",
-                    told.texts_in_fields, told.texts));
-    out.field("Without a field", joined(shortened_list(out, paths_without_field(told))));
-    out.field("Beside", joined(shortened_list(out, counted_by_name(document.beside))));
-    out.fields("Changed", shortened_list(out, changes(told)));
-    out.fields("Refused", refusals(told));
+    out.field(tr("File"),
+              say("{} of the invoice's {} elements have found their place; --json lists them",
+                  told.texts_in_fields, told.texts));
+    out.field(tr("Without a field"), joined(shortened_list(out, paths_without_field(told))));
+    out.field(tr("Beside"), joined(shortened_list(out, counted_by_name(document.beside))));
+    out.fields(tr("Changed"), shortened_list(out, changes(told)));
+    out.fields(tr("Refused"), refusals(told));
 }
 
 } // namespace nfe_summary

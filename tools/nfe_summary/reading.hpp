@@ -24,7 +24,4 @@ std::vector<std::string> changes(const layout::report& told);
 /// The paths in the invoice for which it has no field; elements of a list once, with their number.
 std::vector<std::string> paths_without_field(const layout::report& told);
 
-/// Counts in how many ways the invoice as it is written differs from the file; empty when in none.
-std::string problems(const layout::report& told);
-
 } // namespace nfe_summary

@@ -1,3 +1,4 @@
+#include "language.hpp"
 #include "show.hpp"
 #include "values.hpp"
 
@@ -11,9 +12,9 @@ namespace {
 /// Amounts that are not zero, with their labels.
 class amount_list {
 public:
-    void add(std::string label, const optional<fiscal::decimal>& value) {
+    void add(const std::string& label, const optional<fiscal::decimal>& value) {
         if (value && *value != fiscal::decimal()) {
-            amounts_.push_back({std::move(label), amount(*value)});
+            amounts_.push_back({label, amount(*value)});
         }
     }
     const std::vector<labelled_amount>& amounts() const { return amounts_; }
@@ -23,64 +24,64 @@ private:
 };
 
 void add_icms(amount_list& list, const fiscal::total_nfe_icms& total) {
-    list.add("Products", total.get_valor_total_dos_produtos_da_nota());
-    list.add("Freight", total.get_total_frete());
-    list.add("Insurance", total.get_total_seguro());
-    list.add("Other expenses", total.get_total_despesas_acessorias());
-    list.add("Discount", total.get_valor_total_do_desconto_da_nota());
-    list.add("ICMS base", total.get_total_base_normal());
+    list.add(tr("Products"), total.get_valor_total_dos_produtos_da_nota());
+    list.add(tr("Freight"), total.get_total_frete());
+    list.add(tr("Insurance"), total.get_total_seguro());
+    list.add(tr("Other expenses"), total.get_total_despesas_acessorias());
+    list.add(tr("Discount"), total.get_valor_total_do_desconto_da_nota());
+    list.add(tr("ICMS base"), total.get_total_base_normal());
     list.add("ICMS", total.get_total_icms_normal());
-    list.add("ICMS relieved", total.get_total_desonerado());
-    list.add("ICMS ST base", total.get_total_base_st());
+    list.add(tr("ICMS relieved"), total.get_total_desonerado());
+    list.add(tr("ICMS ST base"), total.get_total_base_st());
     list.add("ICMS ST", total.get_total_retido());
     list.add("FCP", total.get_total_fcp());
     list.add("FCP ST", total.get_total_fcp_retido());
-    list.add("FCP ST before", total.get_total_fcp_retido_anteriormente());
-    list.add("FCP destination", total.get_total_icms_fcp());
-    list.add("ICMS destination", total.get_total_icms_destino());
-    list.add("ICMS origin", total.get_total_icms_remetente());
-    list.add("ICMS monophasic", total.get_total_icms_monofasico());
-    list.add("ICMS mono. withheld", total.get_total_icms_monofasico_retencao());
-    list.add("ICMS mono. before", total.get_total_icms_monofasico_retido());
-    list.add("Import duty", total.get_total_imposto_de_importacao());
+    list.add(tr("FCP ST before"), total.get_total_fcp_retido_anteriormente());
+    list.add(tr("FCP destination"), total.get_total_icms_fcp());
+    list.add(tr("ICMS destination"), total.get_total_icms_destino());
+    list.add(tr("ICMS origin"), total.get_total_icms_remetente());
+    list.add(tr("ICMS monophasic"), total.get_total_icms_monofasico());
+    list.add(tr("ICMS mono. withheld"), total.get_total_icms_monofasico_retencao());
+    list.add(tr("ICMS mono. before"), total.get_total_icms_monofasico_retido());
+    list.add(tr("Import duty"), total.get_total_imposto_de_importacao());
     list.add("IPI", total.get_total_ipi());
-    list.add("IPI returned", total.get_total_ipi_devolvido());
+    list.add(tr("IPI returned"), total.get_total_ipi_devolvido());
     list.add("PIS", total.get_total_imposto_pis());
     list.add("COFINS", total.get_total_imposto_confins());
 }
 
 void add_services(amount_list& list, const fiscal::total_nfe_issqn& total) {
-    list.add("Services", total.get_valor_servico());
-    list.add("ISS base", total.get_valor_base_calculo());
+    list.add(tr("Services"), total.get_valor_servico());
+    list.add(tr("ISS base"), total.get_valor_base_calculo());
     list.add("ISS", total.get_valor_iss());
-    list.add("ISS withheld", total.get_valor_iss_retido());
-    list.add("Services' PIS", total.get_valor_pis());
-    list.add("Services' COFINS", total.get_valor_cofins());
+    list.add(tr("ISS withheld"), total.get_valor_iss_retido());
+    list.add(tr("Services' PIS"), total.get_valor_pis());
+    list.add(tr("Services' COFINS"), total.get_valor_cofins());
 }
 
 void add_withheld(amount_list& list, const fiscal::total_nfe_retencao_tributos& total) {
-    list.add("PIS withheld", total.get_valor_pis_retido());
-    list.add("COFINS withheld", total.get_valor_cofins_retido());
-    list.add("CSLL withheld", total.get_valor_csll_retido());
-    list.add("IRRF withheld", total.get_valor_irrf());
-    list.add("Pension withheld", total.get_valor_retencao_previdencia());
+    list.add(tr("PIS withheld"), total.get_valor_pis_retido());
+    list.add(tr("COFINS withheld"), total.get_valor_cofins_retido());
+    list.add(tr("CSLL withheld"), total.get_valor_csll_retido());
+    list.add(tr("IRRF withheld"), total.get_valor_irrf());
+    list.add(tr("Pension withheld"), total.get_valor_retencao_previdencia());
 }
 
 void add_ibs_cbs(amount_list& list, const fiscal::total_ibs_cbs& total) {
-    list.add("IBS/CBS base", total.get_total_bc_ibs_cbs());
+    list.add(tr("IBS/CBS base"), total.get_total_bc_ibs_cbs());
     if (const auto ibs = total.get_total_grupo_ibs()) {
-        list.add("IBS state", ibs->get_total_grupo_ibs_uf().get_total());
-        list.add("IBS city", ibs->get_total_grupo_ibs_municipio().get_total());
+        list.add(tr("IBS state"), ibs->get_total_grupo_ibs_uf().get_total());
+        list.add(tr("IBS city"), ibs->get_total_grupo_ibs_municipio().get_total());
         list.add("IBS", ibs->get_total_ibs());
-        list.add("IBS credit", ibs->get_total_cred_pres());
+        list.add(tr("IBS credit"), ibs->get_total_cred_pres());
     }
     if (const auto cbs = total.get_total_grupo_cbs()) {
         list.add("CBS", cbs->get_total_cbs());
-        list.add("CBS credit", cbs->get_total_cred_pres());
+        list.add(tr("CBS credit"), cbs->get_total_cred_pres());
     }
     if (const auto fuel = total.get_total_grupo_monofasia()) {
-        list.add("IBS monophasic", fuel->get_total_ibs());
-        list.add("CBS monophasic", fuel->get_total_cbs());
+        list.add(tr("IBS monophasic"), fuel->get_total_ibs());
+        list.add(tr("CBS monophasic"), fuel->get_total_cbs());
     }
 }
 
@@ -102,12 +103,12 @@ void show_totals(const page& out, const fiscal::total_nfe& totals) {
     if (const auto ibs_cbs = totals.get_total_ibs_cbs()) {
         add_ibs_cbs(list, *ibs_cbs);
     }
-    list.add("Taxes, estimated", icms.get_total_dos_tributos_do_item());
+    list.add(tr("Taxes, estimated"), icms.get_total_dos_tributos_do_item());
     out.amounts(list.amounts());
-    out.heading("Invoice total  " + amount(icms.get_total_da_nota()));
+    out.heading(say("Invoice total  {}", amount(icms.get_total_da_nota())));
     const auto with_new_taxes = totals.get_total_nfe_geral();
     if (with_new_taxes && *with_new_taxes != icms.get_total_da_nota()) {
-        out.heading("Total with IBS, CBS and IS  " + amount(*with_new_taxes));
+        out.heading(say("Total with IBS, CBS and IS  {}", amount(*with_new_taxes)));
     }
 }
 

@@ -22,8 +22,9 @@ std::size_t total(const std::vector<std::size_t>& widths) {
 } // namespace
 
 void table::add(std::vector<std::string> row) {
-    for (std::string& text : row) {
-        text = shortened(harmless(text), longest);
+    for (std::size_t index = 0; index < row.size(); ++index) {
+        row[index] = shortened(harmless(row[index]), longest);
+        natural_[index] = std::max(natural_[index], nfe_summary::columns(row[index]));
     }
     rows_.push_back(std::move(row));
 }
@@ -31,12 +32,10 @@ void table::add(std::vector<std::string> row) {
 table::layout table::lay_out(std::size_t width) const {
     layout result;
     for (std::size_t index = 0; index < columns_.size(); ++index) {
-        std::size_t natural = 0;
-        for (const auto& row : rows_) {
-            natural = std::max(natural, nfe_summary::columns(row[index]));
-        }
         const column& shown = columns_[index];
-        natural = natural == 0 ? 0 : std::max(natural, nfe_summary::columns(shown.heading));
+        const std::size_t natural =
+            natural_[index] == 0 ? 0
+                                 : std::max(natural_[index], nfe_summary::columns(shown.heading));
         result.widths.push_back(natural);
         result.least.push_back(shown.shortest == 0 ? natural : std::min(natural, shown.shortest));
     }

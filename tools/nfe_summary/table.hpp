@@ -17,7 +17,8 @@ struct column {
 /// A table that finds the widths of its columns itself. A column without texts is not shown.
 class table {
 public:
-    explicit table(std::vector<column> columns) : columns_(std::move(columns)) {}
+    explicit table(std::vector<column> columns)
+        : columns_(std::move(columns)), natural_(columns_.size()) {}
 
     /// Adds a row: a text for each column.
     void add(std::vector<std::string> row);
@@ -40,6 +41,7 @@ private:
     layout lay_out(std::size_t width) const;
 
     std::vector<column> columns_;
+    std::vector<std::size_t> natural_; // the widest text of each column
     std::vector<std::vector<std::string>> rows_;
 };
 

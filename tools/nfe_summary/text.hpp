@@ -7,7 +7,8 @@
 #include <string_view>
 #include <vector>
 
-/// Texts for a person in front of a terminal. Texts are UTF-8; each character takes one column.
+/// Texts for a person in front of a terminal. Texts are UTF-8, and their widths are those of a
+/// terminal's cells.
 namespace nfe_summary {
 
 using kivo::core::v7::optional;
@@ -21,18 +22,18 @@ enum class blanks {
     as_signs,  ///< for one who compares it
 };
 
-/// A text on one line and without anything that steers a terminal or turns its direction: such a
-/// character becomes a visible sign, and so does a byte that is not UTF-8.
+/// A text on one line and without anything that steers a terminal, turns its direction or is not
+/// seen: such a character becomes a visible sign, and so does a byte that is not UTF-8.
 std::string harmless(std::string_view text, blanks shown = blanks::as_spaces);
 
-/// A JSON or XML document whose texts may steer a terminal, with these characters escaped: what
-/// they are in hexadecimal stands between `before` and `after`.
-std::string escaped(std::string_view document, std::string_view before, std::string_view after);
+/// A JSON or XML document whose texts may steer a terminal, with these characters escaped.
+std::string harmless_json(std::string_view document);
+std::string harmless_xml(std::string_view document);
 
-/// How many columns a text takes.
+/// How many cells a text takes. Accents take none, characters of East Asia and emoji two.
 std::size_t columns(std::string_view text);
 
-/// A text that takes at most so many columns; an ellipsis ends one that is cut.
+/// A text that takes at most so many cells; an ellipsis ends one that is cut.
 std::string shortened(std::string_view text, std::size_t width);
 
 /// The lines of a text, broken at spaces where it has some.

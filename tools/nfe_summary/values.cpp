@@ -18,6 +18,9 @@ constexpr std::int64_t one = 1'000'000'000'000'000;
 
 /// `-1234.5` as `-1.234,50`.
 std::string in_brazilian_form(std::string_view text, std::size_t places) {
+    if (text.empty()) {
+        return "";
+    }
     const std::size_t point = std::min(text.find('.'), text.size());
     std::string whole(text.substr(0, point));
     for (std::size_t place = 3, first = whole.starts_with('-') ? 1 : 0;
@@ -65,6 +68,10 @@ std::string amount(const optional<fiscal::decimal>& value, std::size_t places) {
     return value ? amount(*value, places) : "";
 }
 
+std::string plain(const fiscal::decimal& value) { return layout::text_of(value).value_or(""); }
+
+std::string plain(const optional<fiscal::decimal>& value) { return value ? plain(*value) : ""; }
+
 std::string quantity(const fiscal::decimal& value) { return amount(value, 0); }
 
 void decimal_sum::add(const fiscal::decimal& value) {
@@ -87,12 +94,24 @@ void decimal_sum::add(const optional<fiscal::decimal>& value) {
     }
 }
 
-std::string decimal_sum::text() const {
+void decimal_sum::add(const decimal_sum& other) {
+    units_ += other.units_;
+    empty_ = empty_ && other.empty_;
+}
+
+std::string decimal_sum::text() const { return in_brazilian_form(plain_text(), 2); }
+
+std::string decimal_sum::plain_text() const {
+    if (empty_) {
+        return "";
+    }
+    constexpr std::size_t least_places = 2;
     const wide size = units_ < 0 ? -units_ : units_;
-    return empty_ ? ""
-                  : in_brazilian_form(fmt::format("{}{}.{:015}", units_ < 0 ? "-" : "", size / one,
-                                                  static_cast<std::int64_t>(size % one)),
-                                      2);
+    std::string text = fmt::format("{}{}.{:015}", units_ < 0 ? "-" : "", size / one,
+                                   static_cast<std::int64_t>(size % one));
+    const std::size_t end =
+        std::max(text.find_last_not_of('0') + 1, text.find('.') + 1 + least_places);
+    return text.substr(0, end);
 }
 
 std::string day(const optional<fiscal::date>& value) {
@@ -101,7 +120,14 @@ std::string day(const optional<fiscal::date>& value) {
 
 std::string time(const optional<fiscal::datetime>& value) {
     const std::string text = (value ? layout::text_of(*value) : std::nullopt).value_or("");
-    return text.empty() ? "" : joined({day_first(text), text.substr(11, 8), text.substr(19)}, " ");
+    return time_text(text);
+}
+
+std::string time_text(const std::string& text) {
+    constexpr std::size_t size = 25; // AAAA-MM-DDThh:mm:ss-03:00
+    return text.size() != size
+               ? text
+               : joined({day_first(text), text.substr(11, 8), text.substr(19)}, " ");
 }
 
 std::string key(std::string_view text) {

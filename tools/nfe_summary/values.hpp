@@ -19,6 +19,10 @@ namespace fiscal = kivo::erp::v12::fiscal;
 std::string amount(const fiscal::decimal& value, std::size_t places = 2);
 std::string amount(const optional<fiscal::decimal>& value, std::size_t places = 2);
 
+/// `1234.56`, as the document has it.
+std::string plain(const fiscal::decimal& value);
+std::string plain(const optional<fiscal::decimal>& value);
+
 /// A quantity: `12`, `0,5`.
 std::string quantity(const fiscal::decimal& value);
 
@@ -28,8 +32,12 @@ public:
     void add(const fiscal::decimal& value);
     void add(const optional<fiscal::decimal>& value);
 
+    void add(const decimal_sum& other);
+
     /// The sum as an amount; empty when nothing was added.
     std::string text() const;
+    /// The same as a plain number: `1234.50`.
+    std::string plain_text() const;
 
 private:
     __extension__ using wide = __int128;
@@ -40,6 +48,9 @@ private:
 
 /// `12/08/2026`.
 std::string day(const optional<fiscal::date>& value);
+
+/// The layout's text of a date and time as `12/08/2026 13:45:10 -03:00`; another text stays.
+std::string time_text(const std::string& text);
 
 /// `12/08/2026 13:45:10 -03:00`.
 std::string time(const optional<fiscal::datetime>& value);
