@@ -219,7 +219,7 @@ std::optional<std::vector<std::string_view>> fit(std::string_view message,
 } // namespace
 
 std::string translated(std::string_view message) {
-    if (message.empty() || message.front() == '"') {
+    if (message.empty() || (message.front() == '"' && message.find('"', 1) == message.size() - 1)) {
         return std::string(message); // a text of the document
     }
     for (const char* const pattern : messages) {

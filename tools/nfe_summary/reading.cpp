@@ -89,7 +89,9 @@ void show_reading(const page& out, const layout::invoice_document& document) {
               say("{} of the invoice's {} elements have found their place; --json lists them",
                   told.texts_in_fields, told.texts));
     out.field(tr("Without a field"), joined(shortened_list(out, paths_without_field(told))));
-    out.field(tr("Beside"), joined(shortened_list(out, counted_by_name(document.beside))));
+    std::vector<std::string> beside = counted_by_name(document.beside);
+    std::erase(beside, "protNFe"); // it is shown
+    out.field(tr("Beside"), joined(shortened_list(out, beside)));
     out.fields(tr("Changed"), shortened_list(out, changes(told)));
     out.fields(tr("Refused"), refusals(told));
 }
