@@ -1,6 +1,9 @@
 #include <layout/engine.hpp>
 
+#include <layout/elements.hpp>
+
 #include <algorithm>
+#include <charconv>
 
 namespace kivo::erp::v12::layout {
 
@@ -40,8 +43,9 @@ template <class Write> tree written_by(const outside_texts& outside, Write write
 
 } // namespace
 
-reader::reader(const node& root, outside_texts& outside, report& told)
-    : path_(root), outside_(&outside), told_(&told) {
+reader::reader(const node& root, const element_rule* rule, outside_texts& outside,
+               std::vector<placed_text>& kept, report& told)
+    : path_(root), root_(&root), rule_(rule), outside_(&outside), kept_(&kept), told_(&told) {
     outside = {{}, {}, {}, {}, {}};
     for (const node* element = &root + 1; element != &root + root.size; ++element) {
         told.texts += element->holds_text() ? 1 : 0;
@@ -88,7 +92,7 @@ frame reader::read_elements(const table& known, const node& parent, void* object
         expected = name;
     }
     if (parent.size > 1 && !parent.text.empty()) {
-        told_->without_field.push_back(path_(parent) + "/text()");
+        told_->unknown.push_back(path_(parent) + "/text()");
     }
     return read;
 }
@@ -224,7 +228,65 @@ void reader::tell_renumbered(const node& element, std::size_t number) {
     tell_moved(element, path.substr(0, path.rfind('[')) + '[' + std::to_string(number) + ']');
 }
 
-void reader::tell_no_field(const node& element) { told_->without_field.push_back(path_(element)); }
+const element_rule* reader::rule_of(const node& element) const {
+    if (&element == root_) {
+        return rule_;
+    }
+    const element_rule* const parent = rule_of(*(&element - element.up));
+    return parent == nullptr ? nullptr : parent->child(element.name);
+}
+
+void reader::tell_no_field(const node& element) {
+    std::string path = path_(element);
+    const element_rule* const rule = rule_of(element);
+    if (rule == nullptr) {
+        (rule_ == nullptr ? told_->without_field : told_->unknown).push_back(std::move(path));
+        return;
+    }
+    if (path.ends_with(']')) {
+        // more of them than the layout takes cannot ride along
+        const std::string_view number = std::string_view(path).substr(path.rfind('[') + 1);
+        unsigned count = 0;
+        std::from_chars(number.data(), number.data() + number.size(), count);
+        if (count > rule->most()) {
+            tell_no_room(element);
+            return;
+        }
+    }
+    told_->without_field.push_back(path);
+    keep(element, *rule, path);
+}
+
+void reader::tell_no_field(const node& element, std::size_t number) {
+    const element_rule* const rule = rule_of(element);
+    const std::string path = path_(element);
+    if (rule == nullptr || number > rule->most()) {
+        tell_no_field(element);
+        return;
+    }
+    told_->without_field.push_back(path);
+    const std::string name = path.substr(0, path.ends_with(']') ? path.rfind('[') : path.npos);
+    if (path.ends_with(']') && path != name + '[' + std::to_string(number) + ']') {
+        tell_renumbered(element, number);
+    }
+    keep(element, *rule, name + '[' + std::to_string(number) + ']');
+}
+
+void reader::keep(const node& element, const element_rule& rule, const std::string& path) {
+    if (element.size == 1 || (!rule.is_group() && !element.text.empty())) {
+        kept_->push_back({path, std::string(element.text)});
+    }
+    path_teller below(element);
+    for (const node& child : children(element)) {
+        const element_rule* const inner = rule.child(child.name);
+        const std::string child_path = path + '/' + below(child);
+        if (inner == nullptr) {
+            told_->unknown.push_back(child_path);
+        } else {
+            keep(child, *inner, child_path);
+        }
+    }
+}
 
 void reader::tell_no_room(const node& element) {
     told_->without_room.push_back({path_(element), std::string(element.text), {}});

@@ -24,8 +24,10 @@
 /// all tables, and compiled once.
 namespace kivo::erp::v12::layout {
 
+class element_rule;
 class reader;
 class writer;
+struct table;
 
 /// What an entry took of the elements in a group.
 struct taken {
@@ -46,7 +48,9 @@ struct table_entry {
 /// A name that can stand in an element, and the entry that knows it.
 struct table_name {
     element_name name;
-    std::size_t entry;
+    const table* inner = nullptr; ///< what is known in it; null: it is a text
+    bool of_object = false;       ///< it is there where an object of its own is
+    std::size_t entry = 0;
 };
 
 /// A map, or the entries of an element in it, as data.
@@ -74,8 +78,10 @@ struct frame {
 /// Reads objects from a document, and reports.
 class reader {
 public:
-    /// What stands outside the objects is left empty where the document does not have it.
-    reader(const node& root, outside_texts& outside, report& told);
+    /// What stands outside the objects is left empty where the document does not have it. `kept`
+    /// takes what no field takes and the layout has, if the layout's rule of the root is given.
+    reader(const node& root, const element_rule* rule, outside_texts& outside,
+           std::vector<placed_text>& kept, report& told);
 
     outside_texts& outside() const { return *outside_; }
 
@@ -131,6 +137,8 @@ public:
     /// Tells that an element of several of its name is written as another one of them.
     void tell_renumbered(const node& element, std::size_t number);
     void tell_no_field(const node& element);
+    /// The same of an element that is written as another one of its name.
+    void tell_no_field(const node& element, std::size_t number);
     void tell_no_room(const node& element);
     /// Tells that a group has no room, unless what is in it was told.
     void tell_empty(const node& element);
@@ -142,10 +150,16 @@ private:
               void* object, frame& read);
     void finish(const table& known, const frame& read, const node& parent, const void* object);
     void tell_inner(const node& element);
+    /// The layout's rule of an element; null where it has none.
+    const element_rule* rule_of(const node& element) const;
+    void keep(const node& element, const element_rule& rule, const std::string& path);
     void tell_added(const node& parent, std::string_view path, std::string_view text);
 
     path_teller path_;
+    const node* root_;
+    const element_rule* rule_; // of the root
     outside_texts* outside_;
+    std::vector<placed_text>* kept_;
     report* told_;
     core::v7::optional<std::string> string_; // its memory serves all texts
 };
@@ -184,6 +198,9 @@ private:
 /// The table of some entries of a class.
 template <class Class, class Entries> struct tables;
 
+/// A table of names that `Names::names` visits, without entries.
+template <class Names> struct name_tables;
+
 /// The table of a map.
 template <class Map> constexpr const table& table_of() {
     static_assert(
@@ -193,6 +210,15 @@ template <class Map> constexpr const table& table_of() {
 
 /// A name in the types of the map, as it stands in a document.
 template <characters Name> inline constexpr element_name name_of{Name.view()};
+
+/// A name that holds a value, or values, of a type.
+template <characters Name, class Value> constexpr table_name name_in_table() {
+    if constexpr (group<content_of<Value>>) {
+        return {name_of<Name>, &table_of<map_of<content_of<Value>>>(), true};
+    } else {
+        return {name_of<Name>};
+    }
+}
 
 /// What a field holds, in an element of its own, or in several of one name where it is a list.
 template <class Value> struct held {
@@ -301,7 +327,7 @@ struct choice<entries<Place...>, core::v7::variant<Alternative...>> {
 
     static bool knows(const element_name& name) {
         bool known = false;
-        names([&](const element_name& own) { known = known || own == name; });
+        names([&](const table_name& own) { known = known || own.name == name; });
         return known;
     }
 
@@ -356,7 +382,9 @@ struct choice<entries<Place...>, core::v7::variant<Alternative...>> {
 };
 
 template <characters Name, class Alternative> struct alternative<word::as<Name>, Alternative> {
-    template <class Visit> static constexpr void names(Visit visit) { visit(name_of<Name>); }
+    template <class Visit> static constexpr void names(Visit visit) {
+        visit(name_in_table<Name, Alternative>());
+    }
     static bool is_own(const node&, const node& first) { return first.name == name_of<Name>; }
 
     template <class Make>
@@ -381,7 +409,9 @@ template <characters Name, class... Place, class Alternative>
 struct alternative<word::inside<Name, Place...>, Alternative> {
     using inner = choice<entries<Place...>, Alternative>;
 
-    template <class Visit> static constexpr void names(Visit visit) { visit(name_of<Name>); }
+    template <class Visit> static constexpr void names(Visit visit) {
+        visit(table_name{name_of<Name>, &name_tables<inner>::whole});
+    }
     static bool is_own(const node&, const node& first) { return first.name == name_of<Name>; }
 
     template <class Make> static taken read(reader& in, const node&, const node& first, Make make) {
@@ -411,9 +441,9 @@ struct alternative<word::inside<Name, Place...>, Alternative> {
 template <characters Name, characters Text, class Alternative>
 struct alternative<word::marked_by<Name, Text>, Alternative> {
     template <class Visit> static constexpr void names(Visit visit) {
-        visit(name_of<Name>);
+        visit(table_name{name_of<Name>});
         for (const table_name& known : table_of<map_of<Alternative>>().names) {
-            visit(known.name);
+            visit(known);
         }
     }
 
@@ -453,8 +483,10 @@ auto& alternative_in(Variant& value) {
 }
 
 /// A word whose element has its name.
-template <characters Name> struct named_word {
-    template <class Visit> static constexpr void names(Visit visit) { visit(name_of<Name>); }
+template <characters Name, class Value = std::string> struct named_word {
+    template <class Visit> static constexpr void names(Visit visit) {
+        visit(name_in_table<Name, Value>());
+    }
 };
 
 /// What a word does in the map of a class: it knows the names of its elements, reads and writes.
@@ -482,7 +514,8 @@ template <class Value> const auto* content_in(const Value* value) {
 }
 
 template <class Class, characters Name, auto Get, auto Set, form How>
-struct action<Class, word::field<Name, Get, Set, How>> : named_word<Name> {
+struct action<Class, word::field<Name, Get, Set, How>>
+    : named_word<Name, typename accessor<Get, Set>::value_type> {
     using value_type = typename accessor<Get, Set>::value_type;
     static constexpr bool plain = is_plain<value_type>;
 
@@ -535,7 +568,8 @@ struct action<Class, word::behind<Name, Get, Set, Prefix>> : named_word<Name> {
 };
 
 template <class Class, characters Name, auto Get, auto Set, characters Attribute>
-struct action<Class, word::numbered<Name, Get, Set, Attribute>> : named_word<Name> {
+struct action<Class, word::numbered<Name, Get, Set, Attribute>>
+    : named_word<Name, typename accessor<Get, Set>::value_type> {
     using value_type = typename accessor<Get, Set>::value_type;
     static constexpr bool plain = false;
 
@@ -559,7 +593,7 @@ struct action<Class, word::embedded<Get, Set, Part>> {
 
     template <class Visit> static constexpr void names(Visit visit) {
         for (const table_name& known : table_of<Part>().names) {
-            visit(known.name);
+            visit(known);
         }
     }
 
@@ -581,8 +615,12 @@ struct action<Class, word::embedded<Get, Set, Part>> {
 };
 
 template <class Class, bool EvenEmpty, characters Name, class... Entry>
-struct action<Class, word::element<EvenEmpty, Name, Entry...>> : named_word<Name> {
+struct action<Class, word::element<EvenEmpty, Name, Entry...>> {
     static constexpr bool plain = true;
+
+    template <class Visit> static constexpr void names(Visit visit) {
+        visit(table_name{name_of<Name>, &tables<Class, entries<Entry...>>::whole});
+    }
 
     static taken read(reader& in, const node&, const node& first, void* object) {
         return {in.read_group(tables<Class, entries<Entry...>>::whole, first, object, EvenEmpty)};
@@ -627,9 +665,25 @@ struct action<Class, word::one_of<Get, Set, Place...>> {
 };
 
 template <class Class, characters Name, class... List>
-struct action<Class, word::sorted_by_content<Name, List...>> : named_word<Name> {
+struct action<Class, word::sorted_by_content<Name, List...>> {
     static constexpr bool plain = false;
     template <class Each> using item_of = content_of<typename Each::value_type>;
+
+    /// What is known in an element of any of the lists.
+    struct items {
+        template <class Visit> static constexpr void names(Visit visit) {
+            const auto visit_all = [&](const table& known) {
+                for (const table_name& name : known.names) {
+                    visit(name);
+                }
+            };
+            (visit_all(table_of<map_of<item_of<List>>>()), ...);
+        }
+    };
+
+    template <class Visit> static constexpr void names(Visit visit) {
+        visit(table_name{name_of<Name>, &name_tables<items>::whole});
+    }
 
     static taken read(reader& in, const node& parent, const node& first, void* object) {
         // the elements of each list, and behind them those of none
@@ -648,9 +702,6 @@ struct action<Class, word::sorted_by_content<Name, List...>> : named_word<Name> 
         }
         std::size_t kind = 0;
         (read_list<List>(in, sorted[kind++], *static_cast<Class*>(object)), ...);
-        for (const node* const element : sorted.back()) {
-            in.tell_no_field(*element);
-        }
         std::size_t place = 0;
         for (kind = 0; kind < known.size(); ++kind) {
             for (const node* const element : sorted[kind]) {
@@ -658,6 +709,9 @@ struct action<Class, word::sorted_by_content<Name, List...>> : named_word<Name> 
                     in.tell_renumbered(*element, place);
                 }
             }
+        }
+        for (const node* const element : sorted.back()) {
+            in.tell_no_field(*element, ++place);
         }
         return {true, true};
     }
@@ -731,9 +785,9 @@ template <class Class> struct table_filler {
                                      stands<Entry>(), beside == table::none ? entry_count : beside,
                                      action<Class, Entry>::plain};
             }
-            action<Class, Entry>::names([&](const element_name& name) {
+            action<Class, Entry>::names([&](const table_name& name) {
                 if (names != nullptr) {
-                    names[name_count] = {name, entry_count};
+                    names[name_count] = {name.name, name.inner, name.of_object, entry_count};
                 }
                 ++name_count;
             });
@@ -772,6 +826,24 @@ private:
             return nullptr;
         }
     }
+};
+
+template <class Names> struct name_tables {
+private:
+    static constexpr std::size_t count = [] {
+        std::size_t result = 0;
+        Names::names([&](const table_name&) { ++result; });
+        return result;
+    }();
+    static constexpr std::array<table_name, count> known = [] {
+        std::array<table_name, count> result{};
+        std::size_t index = 0;
+        Names::names([&](const table_name& name) { result[index++] = name; });
+        return result;
+    }();
+
+public:
+    static constexpr table whole{known, {}, 0, 0};
 };
 
 template <class Class, class Entries> struct tables {
@@ -823,7 +895,9 @@ template <group Class> tree write_fields(std::string_view name, const Class& obj
 template <group Class> report read_fields(const node& element, Class& object) {
     report result;
     outside_texts outside;
-    reader(element, outside, result).read_whole(table_of<map_of<Class>>(), element, &object);
+    std::vector<placed_text> kept;
+    reader(element, nullptr, outside, kept, result)
+        .read_whole(table_of<map_of<Class>>(), element, &object);
     return result;
 }
 

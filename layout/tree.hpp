@@ -148,6 +148,8 @@ public:
     }
     /// Adds a copy of an element and of all in it; the texts stay where they are.
     void add(const node& copied);
+    /// Takes over the texts of another tree, for elements copied from it.
+    void adopt_texts(tree& other);
 
     /// The element that was opened last among those that are open, by its number from 0.
     std::size_t last_opened() const { return open_; }

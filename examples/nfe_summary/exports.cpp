@@ -58,7 +58,8 @@ layout::tree beside_invoice(const layout::tree& document) {
 
 void write_json(const layout::invoice_document& document) {
     std::vector<json> texts;
-    const layout::tree written = layout::write_tree(document.invoice, document.outside);
+    const layout::tree written =
+        layout::write_tree(document.invoice, document.outside, document.kept);
     for (const auto& placed : layout::texts_of(written.root())) {
         texts.push_back({{"path", placed.path}, {"text", placed.text}});
     }
@@ -69,17 +70,18 @@ void write_json(const layout::invoice_document& document) {
 "refused": {},
 "written_otherwise": {},
 "without_room": {},
+"unknown": {},
 "added": {},
 "beside": {}}})",
         list(texts), list({told.without_field.begin(), told.without_field.end()}),
         list(remarks(told.refused)), list(remarks(told.written_otherwise)),
-        list(remarks(told.without_room)), list(remarks(told.added)),
-        list({document.beside.begin(), document.beside.end()}));
+        list(remarks(told.without_room)), list({told.unknown.begin(), told.unknown.end()}),
+        list(remarks(told.added)), list({document.beside.begin(), document.beside.end()}));
     fmt::print("{}\n", escaped(whole, "\\u", ""));
 }
 
 void write_xml(const layout::invoice_document& document) {
-    fmt::print("{}\n", escaped(layout::write_xml(document.invoice, document.outside), "&#x", ";"));
+    fmt::print("{}\n", escaped(layout::write_xml(document), "&#x", ";"));
 }
 
 bool write_differences(const std::string& left_path, const layout::tree& left,

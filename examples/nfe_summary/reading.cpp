@@ -76,6 +76,9 @@ std::vector<std::string> changes(const layout::report& told) {
     for (const auto& lost : told.without_room) {
         texts.push_back(fmt::format("{}: no room for {}", lost.path, in_quotes(lost.text)));
     }
+    for (const std::string& path : told.unknown) {
+        texts.push_back(fmt::format("{}: the layout has no such element", path));
+    }
     for (const auto& added : told.added) {
         texts.push_back(
             fmt::format("{}: {} is written in addition", added.path, in_quotes(added.instead)));
@@ -90,8 +93,8 @@ std::string problems(const layout::report& told) {
     return joined({counted(told.refused.size(), "refused"),
                    counted(told.written_otherwise.size(), "written otherwise"),
                    counted(told.without_room.size(), "without room"),
-                   counted(told.added.size(), "added"),
-                   counted(told.without_field.size(), "left out")});
+                   counted(told.added.size(), "added"), counted(told.unknown.size(), "unknown"),
+                   counted(told.without_field.size(), "without a field")});
 }
 
 void show_reading(const page& out, const layout::invoice_document& document) {
