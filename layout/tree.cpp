@@ -35,6 +35,12 @@ void tree::add(const node& copied) {
     top.up = static_cast<std::uint32_t>(nodes_.size() - copied.size - open_);
 }
 
+void tree::measure() {
+    for (std::size_t index = nodes_.size(); index-- > 1;) {
+        nodes_[index - nodes_[index].up].size += nodes_[index].size;
+    }
+}
+
 void tree::adopt_texts(tree& other) {
     // in front: the last place is the one with room
     texts_.insert(texts_.begin(), std::make_move_iterator(other.texts_.begin()),
