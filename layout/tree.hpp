@@ -237,6 +237,11 @@ std::vector<placed_text> texts_of(const node& root);
 /// element twice, or skips a number.
 tree tree_of(std::string_view root, const std::vector<placed_text>& texts);
 
+/// Takes out the texts of an element of several, `det[2]`, and renumbers those behind it: for the
+/// texts beside an invoice from which an item was taken. Throws std::invalid_argument where the
+/// path does not end with a number.
+void take_out(std::vector<placed_text>& texts, std::string_view path);
+
 /// What stands at one path of two documents; absent where a document has no such text.
 struct difference {
     std::string path;
