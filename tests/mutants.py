@@ -204,11 +204,12 @@ HANDLE_FAULTS = [  # what stands in handle.hpp, and what is wrong instead
     ("record_ ? (*record_).*field : Field()", "(*record_).*field"),
     ("record_ ? (*record_).*field", "record_ ? std::move((*record_).*field)"),
     (".*field : Field()", ".*field : Record().*field"),
-    ("if (record_) {\n            (*record_).*field = value;\n        } else {", "{"),
-    ("(*fresh).*field = value;\n            record_ = std::move(fresh);",
-     "record_ = std::move(fresh);\n            (*record_).*field = value;"),
-    ("            record_ = std::move(fresh);\n", ""),
-    ("record_ = std::move(fresh);", "record_.reset(fresh.get());"),
+    ("        if (!record_) {", "        {"),
+    ("            record_ = std::make_unique<Record>();\n", ""),
+    ("        return *record_;", "        return *record_.release();"),
+    ("filled().*field = value;", "if (record_) {\n(*record_).*field = value;\n} else {\n"
+     "auto fresh = std::make_unique<Record>();\n(*fresh).*field = value;\n"
+     "record_ = std::move(fresh);\n}"),
     ("lazy_handle& other) noexcept(ends_process)\n", "lazy_handle& other)\n"),
     ("lazy_handle& other) noexcept(ends_process)\n", "lazy_handle& other) noexcept\n"),
     ("failure == failed_copy", "failure != failed_copy"),
