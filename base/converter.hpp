@@ -1,5 +1,10 @@
 #pragma once
 
+#if __cplusplus < 202002L
+// a file that is not there ends the compilation, where #error would let pages of others follow
+#include "kivo-erp-fiscal needs C++20: compile with -std=c++20"
+#endif
+
 #include <concepts>
 #include <cstddef>
 #include <cstdint>

@@ -24,7 +24,7 @@ public:
 
     /// Only integers make a date, of a type that fits.
     template <class... Numbers>
-    static void make(Numbers...) requires(!detail::integers<Numbers...>) = delete;
+    static optional<date> make(Numbers...) requires(!detail::integers<Numbers...>) = delete;
 
     /// The parts of the date; 0 in no date.
     constexpr unsigned year() const noexcept { return static_cast<unsigned>(word_ >> 9); }

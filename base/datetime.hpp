@@ -48,8 +48,9 @@ public:
 
     /// Only integers make a time, of a type that fits.
     template <class Hour, class Minute, class Second>
-    static void make(date, Hour, Minute, Second,
-                     utc_offset) requires(!detail::integers<Hour, Minute, Second>) = delete;
+    static optional<datetime>
+        make(date, Hour, Minute, Second,
+             utc_offset) requires(!detail::integers<Hour, Minute, Second>) = delete;
 
     /// The local day; no date when there is no time.
     constexpr date day() const noexcept {

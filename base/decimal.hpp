@@ -33,7 +33,7 @@ public:
 
     /// Only integers make a decimal, of a type that fits: 42.90 is `make(4290, 2)`.
     template <class... Numbers>
-    static void make(Numbers...) requires(!detail::integers<Numbers...>) = delete;
+    static optional<decimal> make(Numbers...) requires(!detail::integers<Numbers...>) = delete;
 
     /// What `make` was given.
     constexpr std::int64_t coefficient() const noexcept { return word_ >> 4; }

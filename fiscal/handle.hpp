@@ -1,7 +1,6 @@
 #pragma once
 
 #include <memory>
-#include <type_traits>
 #include <utility>
 
 /// Ownership, for every class of the library.
@@ -100,8 +99,7 @@ public:
     }
 
     /// Stores a field.
-    template <class Field>
-    void set(Field Record::*field, const std::type_identity_t<Field>& value) {
+    template <class Field> void set(Field Record::*field, const Field& value) {
         filled().*field = value;
     }
 
