@@ -769,7 +769,7 @@ struct action<Class, word::outside<Name, Member, Derive>> : named_word<Name> {
 template <class Class> struct table_filler {
     table_name* names = nullptr;
     table_entry* list = nullptr;
-    std::string_view* fields = nullptr; // the getters of the entries
+    const void** fields = nullptr; // what tells the accessors of the entries apart
     std::size_t name_count = 0;
     std::size_t entry_count = 0;
 
@@ -781,10 +781,10 @@ template <class Class> struct table_filler {
             requires { typename Entry::inner; } && !requires { Entry::name; }) {
             add_exclusive(typename Entry::inner());
         } else if constexpr (requires { action<Class, Entry>::plain; }) {
-            const std::string_view own_field = field_of<Entry>();
+            const void* const own_field = field_of<Entry>();
             if (list != nullptr) {
                 fields[entry_count] = own_field;
-                for (std::size_t index = 0; !own_field.empty() && index < entry_count; ++index) {
+                for (std::size_t index = 0; own_field != nullptr && index < entry_count; ++index) {
                     beside = fields[index] == own_field ? index : beside;
                 }
                 list[entry_count] = {&action<Class, Entry>::read, &action<Class, Entry>::write,
@@ -811,15 +811,15 @@ private:
         (add<Entry>(first), ...);
     }
 
-    /// The getter of the field that an entry has, or has again.
-    template <class Entry> static constexpr std::string_view field_of() {
-        if constexpr (requires { Entry::getter_name; }) {
-            return Entry::getter_name;
+    /// Tells the field that an entry has, or has again, from others.
+    template <class Entry> static constexpr const void* field_of() {
+        if constexpr (requires { typename Entry::value_type; }) {
+            return &accessor<Entry::get, Entry::set>::identity;
         } else if constexpr (
             requires { typename Entry::entry; } && !requires { Entry::condition; }) {
             return field_of<typename Entry::entry>();
         } else {
-            return {};
+            return nullptr;
         }
     }
 
@@ -867,7 +867,7 @@ private:
     };
     static constexpr filled_table filled = [] {
         filled_table result{};
-        std::array<std::string_view, counted.entry_count> fields{};
+        std::array<const void*, counted.entry_count> fields{};
         table_filler<Class> filler{result.names.data(), result.list.data(), fields.data()};
         filler.add_all(Entries());
         return result;

@@ -169,6 +169,7 @@ template <auto Get, auto Set> struct accessor {
 
     static constexpr auto get = Get;
     static constexpr auto set = Set;
+    static constexpr char identity = 0; ///< its address is that of no other accessor pair
     static constexpr std::string_view getter_name = detail::member_name<Get>();
     static constexpr std::string_view setter_name = detail::member_name<Set>();
 };
