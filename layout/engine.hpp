@@ -15,6 +15,7 @@
 #include <string_view>
 #include <tuple>
 #include <type_traits>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -73,6 +74,7 @@ struct frame {
     std::uint64_t stored = 0;  ///< the object holds something of the entry
     std::uint64_t seen_to = 0; ///< all elements of the entry were read or reported
     std::uint64_t taken = 0;   ///< the field of the entry has no room for more
+    std::uint64_t empty = 0;   ///< an element of the entry was there, and nothing was stored
 };
 
 /// Reads objects from a document, and reports.
@@ -80,7 +82,7 @@ class reader {
 public:
     /// What stands outside the objects is left empty where the document does not have it. `kept`
     /// takes what no field takes and the layout has, if the layout's rule of the root is given.
-    reader(const node& root, const element_rule* rule, outside_texts& outside,
+    reader(const node& root, const table& known, const element_rule* rule, outside_texts& outside,
            std::vector<placed_text>& kept, report& told);
 
     outside_texts& outside() const { return *outside_; }
@@ -138,14 +140,15 @@ public:
     void tell_otherwise(const node& element, std::string_view own);
     void tell_refused(const node& element, std::string expected);
     void tell_moved(const node& element, std::string to);
-    /// Tells that an element of several of its name is written as another one of them.
+    /// Tells that an element of several of its name is written as another one of them. It is told
+    /// before the element is read.
     void tell_renumbered(const node& element, std::size_t number);
     void tell_no_field(const node& element);
-    /// The same of an element that is written as another one of its name.
-    void tell_no_field(const node& element, std::size_t number);
+    /// Tells that a group has a text of its own.
+    void tell_text_in_group(const node& group);
+    /// Whether the layout knows something of what is in an element.
+    bool rides_along(const node& element) const;
     void tell_no_room(const node& element);
-    /// Tells that a group has no room, unless what is in it was told.
-    void tell_empty(const node& element);
 
 private:
     frame read_elements(const table& known, const node& parent, void* object,
@@ -154,14 +157,29 @@ private:
               void* object, frame& read);
     void finish(const table& known, const frame& read, const node& parent, const void* object);
     void tell_inner(const node& element);
+    /// Tells of a group with nothing in it that no entry stored, and that is not written, and of
+    /// those in it.
+    void tell_lost(const table_name& name, const node& element, const node* written_parent);
+    /// Tells that an element is not where the layout has it, between those that stand beside it.
+    void tell_if_moved(const node& parent, const node& element);
     /// The layout's rule of an element; null where it has none.
     const element_rule* rule_of(const node& element) const;
+    /// What is known in an element, by any of those that read its parent; null where nothing is.
+    const table* table_of(const node& element) const;
+    bool has_field(const node& element) const;
+    /// Tells of an element that no entry reads: one has no field, or its field is of another kind
+    /// of element.
+    void tell_unread(const node& element);
+    /// The path of an element in the document that is written.
+    std::string written_path(const node& element);
     void keep(const node& element, const element_rule& rule, const std::string& path);
     void tell_added(const node& parent, std::string_view path, std::string_view text);
 
     path_teller path_;
     const node* root_;
+    const table* known_;       // in the root
     const element_rule* rule_; // of the root
+    std::unordered_map<const node*, std::uint32_t> renumbered_;
     outside_texts* outside_;
     std::vector<placed_text>* kept_;
     report* told_;
@@ -420,6 +438,7 @@ struct alternative<word::inside<Name, Place...>, Alternative> {
 
     template <class Make> static taken read(reader& in, const node&, const node& first, Make make) {
         taken result;
+        in.tell_text_in_group(first);
         for (const node& child : children(first)) {
             if (!inner::knows(child.name)) {
                 in.tell_no_field(child);
@@ -428,9 +447,6 @@ struct alternative<word::inside<Name, Place...>, Alternative> {
             } else {
                 result = inner::read(in, first, child, make);
             }
-        }
-        if (!result.stored) {
-            in.tell_empty(first);
         }
         return {result.stored};
     }
@@ -702,22 +718,23 @@ struct action<Class, word::sorted_by_content<Name, List...>> {
                 while (kind < known.size() && !known[kind]->knows_content_of(child)) {
                     ++kind;
                 }
-                sorted[kind].push_back(&child);
+                // the first list writes an element with nothing in it
+                sorted[kind < known.size() || in.rides_along(child) ? kind : 0].push_back(&child);
                 all.push_back(&child);
             }
         }
-        std::size_t kind = 0;
-        (read_list<List>(in, sorted[kind++], *static_cast<Class*>(object)), ...);
         std::size_t place = 0;
-        for (kind = 0; kind < known.size(); ++kind) {
-            for (const node* const element : sorted[kind]) {
+        for (const auto& elements : sorted) {
+            for (const node* const element : elements) {
                 if (all[place++] != element) {
                     in.tell_renumbered(*element, place);
                 }
             }
         }
+        std::size_t kind = 0;
+        (read_list<List>(in, sorted[kind++], *static_cast<Class*>(object)), ...);
         for (const node* const element : sorted.back()) {
-            in.tell_no_field(*element, ++place);
+            in.tell_no_field(*element);
         }
         return {true, true};
     }
@@ -902,8 +919,8 @@ template <group Class> report read_fields(const node& element, Class& object) {
     report result;
     outside_texts outside;
     std::vector<placed_text> kept;
-    reader(element, nullptr, outside, kept, result)
-        .read_whole(table_of<map_of<Class>>(), element, &object);
+    const table& known = table_of<map_of<Class>>();
+    reader(element, known, nullptr, outside, kept, result).read_whole(known, element, &object);
     return result;
 }
 
