@@ -1,6 +1,9 @@
 #include <layout/engine.hpp>
 
+#include <layout/elements.hpp>
+
 #include <algorithm>
+#include <charconv>
 
 namespace kivo::erp::v12::layout {
 
@@ -28,6 +31,12 @@ namespace {
 
 std::uint64_t bit_of(std::size_t entry) { return std::uint64_t{1} << entry; }
 
+bool has_empty_group(const node& parent) {
+    const children content(parent);
+    return std::any_of(content.begin(), content.end(),
+                       [](const node& child) { return child.size == 1 && child.text.empty(); });
+}
+
 /// What a table writes of an object, or one of its entries, below an element without a name.
 template <class Write> tree written_by(const outside_texts& outside, Write write) {
     tree result;
@@ -40,8 +49,10 @@ template <class Write> tree written_by(const outside_texts& outside, Write write
 
 } // namespace
 
-reader::reader(const node& root, outside_texts& outside, report& told)
-    : path_(root), outside_(&outside), told_(&told) {
+reader::reader(const node& root, const table& known, const element_rule* rule,
+               outside_texts& outside, std::vector<placed_text>& kept, report& told)
+    : path_(root), root_(&root), known_(&known), rule_(rule), outside_(&outside), kept_(&kept),
+      told_(&told) {
     outside = {{}, {}, {}, {}, {}};
     for (const node* element = &root + 1; element != &root + root.size; ++element) {
         told.texts += element->holds_text() ? 1 : 0;
@@ -59,9 +70,22 @@ void reader::take(const table& known, std::size_t name, const node& parent, cons
         tell_no_room(child);
         return;
     }
+    const std::size_t kept = kept_->size();
     const taken result = entry.read(*this, parent, child, object);
-    if (result.stored) {
+    if (!result.stored) {
+        read.empty |= bit_of(index);
+    } else {
         read.stored |= bit_of(index);
+        if ((read.empty & bit_of(index)) != 0) {
+            for (const node* before = &parent + 1; before != &child; before += before->size) {
+                if (before->name == child.name) {
+                    tell_lost(known.names[name], *before, nullptr);
+                }
+            }
+        }
+    }
+    // what rides along takes the room, too: there can be no second of its path
+    if (result.stored || kept_->size() != kept) {
         read.taken |= bit_of(entry.field);
     }
     read.seen_to |= result.all ? bit_of(index) : 0;
@@ -76,20 +100,18 @@ frame reader::read_elements(const table& known, const node& parent, void* object
         const std::size_t name = known.find(child.name, expected);
         if (name == table::none) {
             if (numbering.empty() || child.name != numbering) {
-                tell_no_field(child);
+                tell_unread(child);
             }
             continue;
         }
         take(known, name, parent, child, object, read);
         if (name < last && !child.name.is_attribute()) {
-            tell_moved(child, "behind those that the layout has before it");
+            tell_if_moved(parent, child);
         }
         last = child.name.is_attribute() ? last : name;
         expected = name;
     }
-    if (parent.size > 1 && !parent.text.empty()) {
-        told_->without_field.push_back(path_(parent) + "/text()");
-    }
+    tell_text_in_group(parent);
     return read;
 }
 
@@ -113,16 +135,12 @@ void reader::read_item(const table& known, const node& element, void* object,
 
 bool reader::read_group(const table& known, const node& element, void* object, bool always) {
     const std::size_t refused = told_->refused.size();
+    const std::size_t kept = kept_->size();
     const frame read = read_elements(known, element, object, {});
-    const bool stored = read.stored != 0 || (always && told_->refused.size() == refused);
+    const bool whole = told_->refused.size() == refused || kept_->size() != kept;
+    const bool stored = read.stored != 0 || (always && whole);
     if (stored) {
         finish(known, read, element, object);
-    } else if (element.size == 1) {
-        const tree written =
-            written_by(*outside_, [&](writer& out) { out.write_whole(known, object); });
-        if (written.root().size == 1) {
-            tell_no_room(element);
-        }
     }
     return stored;
 }
@@ -145,30 +163,62 @@ bool reader::read_embedded(const table& known, const node& parent, const node& f
 }
 
 void reader::finish(const table& known, const frame& read, const node& parent, const void* object) {
-    const std::uint64_t open = (known.plain & ~read.stored) | known.conditional;
-    if (open == 0) {
+    const std::uint64_t all = ~std::uint64_t{0} >> (64 - known.entries.size());
+    const std::uint64_t open = (all & ~read.stored) | known.conditional;
+    if ((open & (known.plain | known.conditional)) == 0 && !has_empty_group(parent)) {
         return;
     }
     for (std::size_t index = 0; index < known.entries.size(); ++index) {
-        const table_entry& entry = known.entries[index];
-        const bool stored = (read.stored & bit_of(index)) != 0;
         if ((open & bit_of(index)) == 0) {
             continue;
         }
-        if (entry.stands != nullptr && !entry.stands(object)) {
-            for (const table_name& name : known.names) {
-                const node* const element =
-                    stored && name.entry == index ? child_named(parent, name.name) : nullptr;
-                if (element != nullptr) {
-                    tell_no_room(*element);
+        const table_entry& entry = known.entries[index];
+        const bool stored = (read.stored & bit_of(index)) != 0;
+        const bool stands = entry.stands == nullptr || entry.stands(object);
+        tree written;
+        if (!stored && stands && entry.plain) {
+            written = written_by(*outside_, [&](writer& out) { entry.write(out, object); });
+            for (const placed_text& text : texts_of(written.root())) {
+                const node* const there = child_named(parent, std::string_view(text.path));
+                // a group is still there when all that was in it was refused
+                if (there == nullptr || there->size == 1) {
+                    tell_added(parent, text.path, text.text);
                 }
             }
-        } else if (!stored && entry.plain) {
-            const tree written =
-                written_by(*outside_, [&](writer& out) { entry.write(out, object); });
-            for (const placed_text& text : texts_of(written.root())) {
-                tell_added(parent, text.path, text.text);
+        }
+        for (const table_name& name : known.names) {
+            const node* const element =
+                name.entry == index ? child_named(parent, name.name) : nullptr;
+            if (element != nullptr && !stored) {
+                tell_lost(name, *element, written.empty() ? nullptr : &written.root());
+                for (const node& other : children(parent, *element)) {
+                    if (other.name == name.name) {
+                        tell_lost(name, other, nullptr);
+                    }
+                }
+            } else if (element != nullptr && !stands) {
+                const std::string group = path_(*element) + '/';
+                std::erase_if(told_->added, [&](const report::remark& added) {
+                    return added.path.starts_with(group);
+                });
+                tell_no_room(*element);
             }
+        }
+    }
+}
+
+void reader::tell_lost(const table_name& name, const node& element, const node* written_parent) {
+    const node* const written =
+        written_parent == nullptr ? nullptr : child_named(*written_parent, name.name);
+    if (name.inner == nullptr) {
+        return;
+    }
+    if (element.size == 1 && element.text.empty() && written == nullptr) {
+        tell_no_room(element);
+    }
+    for (const table_name& inner : name.inner->names) {
+        if (const node* const child = child_named(element, inner.name)) {
+            tell_lost(inner, *child, written);
         }
     }
 }
@@ -222,18 +272,157 @@ void reader::tell_moved(const node& element, std::string to) {
 void reader::tell_renumbered(const node& element, std::size_t number) {
     const std::string path = path_(element);
     tell_moved(element, path.substr(0, path.rfind('[')) + '[' + std::to_string(number) + ']');
+    renumbered_[&element] = static_cast<std::uint32_t>(number);
 }
 
-void reader::tell_no_field(const node& element) { told_->without_field.push_back(path_(element)); }
+const element_rule* reader::rule_of(const node& element) const {
+    if (&element == root_) {
+        return rule_;
+    }
+    const element_rule* const parent = rule_of(*(&element - element.up));
+    return parent == nullptr ? nullptr : parent->child(element.name);
+}
+
+void reader::tell_text_in_group(const node& group) {
+    if (!group.text.empty()) {
+        const std::string path = path_(group);
+        told_->unknown.push_back(path + (path.empty() ? "" : "/") + "text()");
+    }
+}
+
+void reader::tell_if_moved(const node& parent, const node& element) {
+    const element_rule* const rule = rule_of(parent);
+    const element_rule* const own = rule == nullptr ? nullptr : rule->child(element.name);
+    bool moved = own == nullptr;
+    bool behind = false;
+    const element_rule* before = nullptr; // the nearest that the layout has
+    for (const node& child : children(parent)) {
+        const element_rule* const each =
+            rule == nullptr || child.name.is_attribute() ? nullptr : rule->child(child.name);
+        if (&child == &element) {
+            moved = moved || (before != nullptr && before->position() > own->position());
+            behind = true;
+        } else if (each != nullptr && behind) {
+            moved = moved || each->position() < own->position();
+            break;
+        } else if (each != nullptr) {
+            before = each;
+        }
+    }
+    if (moved) {
+        tell_moved(element, "in the layout's order");
+    }
+}
+
+namespace {
+
+/// The number at the end of a path; 0 where there is none.
+std::uint32_t last_number(std::string_view path) {
+    std::uint32_t number = 0;
+    if (path.ends_with(']')) {
+        const std::string_view digits = path.substr(path.rfind('[') + 1);
+        std::from_chars(digits.data(), digits.data() + digits.size(), number);
+    }
+    return number;
+}
+
+std::string with_number(std::string_view name, std::uint32_t number) {
+    return number == 0 ? std::string(name) : std::string(name) + '[' + std::to_string(number) + ']';
+}
+
+} // namespace
+
+std::string reader::written_path(const node& element) {
+    if (&element == root_) {
+        return {};
+    }
+    const element_rule* const rule = rule_of(element);
+    const auto other = renumbered_.find(&element);
+    std::uint32_t number = 0; // one alone is written, whichever of several it was
+    if (other != renumbered_.end()) {
+        number = other->second;
+    } else if (rule != nullptr && rule->most() > 1) {
+        number = last_number(path_(element));
+    }
+    std::string path = written_path(*(&element - element.up));
+    path += path.empty() ? "" : "/";
+    return path += with_number(element.name, number);
+}
+
+const table* reader::table_of(const node& element) const {
+    if (&element == root_) {
+        return known_;
+    }
+    const table* const parent = table_of(*(&element - element.up));
+    const std::size_t at = parent == nullptr ? table::none : parent->find(element.name);
+    return at == table::none ? nullptr : parent->names[at].inner;
+}
+
+bool reader::has_field(const node& element) const {
+    const table* const parent = table_of(*(&element - element.up));
+    return parent != nullptr && parent->find(element.name) != table::none;
+}
+
+bool reader::rides_along(const node& element) const {
+    const element_rule* const rule = rule_of(element);
+    const children content(element);
+    return rule != nullptr && std::any_of(content.begin(), content.end(), [&](const node& child) {
+               return rule->child(child.name) != nullptr;
+           });
+}
+
+void reader::tell_unread(const node& element) {
+    if (has_field(element)) {
+        tell_no_room(element);
+    } else {
+        tell_no_field(element);
+    }
+}
+
+void reader::tell_no_field(const node& element) {
+    const element_rule* const rule = rule_of(element);
+    if (rule == nullptr) {
+        (rule_ == nullptr ? told_->without_field : told_->unknown).push_back(path_(element));
+    } else if (last_number(path_(element)) > rule->most()) {
+        tell_no_room(element);
+    } else {
+        if (!element.name.is_attribute()) {
+            tell_if_moved(*(&element - element.up), element);
+        }
+        told_->without_field.push_back(path_(element));
+        keep(element, *rule, written_path(element));
+    }
+}
+
+void reader::keep(const node& element, const element_rule& rule, const std::string& path) {
+    const std::size_t kept = kept_->size();
+    if (rule.is_group()) {
+        tell_text_in_group(element);
+    } else if (!element.text.empty()) {
+        kept_->push_back({path, std::string(element.text)});
+    }
+    path_teller below(element);
+    for (const node& child : children(element)) {
+        const element_rule* const inner = rule.child(child.name);
+        const std::string name = below(child);
+        if (inner == nullptr) {
+            told_->unknown.push_back(path_(child));
+        } else if (last_number(name) > inner->most()) {
+            tell_no_room(child);
+        } else {
+            if (!child.name.is_attribute()) {
+                tell_if_moved(element, child);
+            }
+            keep(child, *inner, path + '/' + (inner->most() > 1 ? name : std::string(child.name)));
+        }
+    }
+    if (kept_->size() == kept) {
+        kept_->push_back({path, {}});
+    }
+}
 
 void reader::tell_no_room(const node& element) {
     told_->without_room.push_back({path_(element), std::string(element.text), {}});
-}
-
-void reader::tell_empty(const node& element) {
-    if (element.size == 1) {
-        tell_no_room(element);
-    }
 }
 
 void writer::write_whole(const table& known, const void* object) {

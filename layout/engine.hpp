@@ -15,6 +15,7 @@
 #include <string_view>
 #include <tuple>
 #include <type_traits>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -24,8 +25,10 @@
 /// all tables, and compiled once.
 namespace kivo::erp::v12::layout {
 
+class element_rule;
 class reader;
 class writer;
+struct table;
 
 /// What an entry took of the elements in a group.
 struct taken {
@@ -46,7 +49,9 @@ struct table_entry {
 /// A name that can stand in an element, and the entry that knows it.
 struct table_name {
     element_name name;
-    std::size_t entry;
+    const table* inner = nullptr; ///< what is known in it; null: it is a text
+    bool of_object = false;       ///< it is there where an object of its own is
+    std::size_t entry = 0;
 };
 
 /// A map, or the entries of an element in it, as data.
@@ -69,13 +74,16 @@ struct frame {
     std::uint64_t stored = 0;  ///< the object holds something of the entry
     std::uint64_t seen_to = 0; ///< all elements of the entry were read or reported
     std::uint64_t taken = 0;   ///< the field of the entry has no room for more
+    std::uint64_t empty = 0;   ///< an element of the entry was there, and nothing was stored
 };
 
 /// Reads objects from a document, and reports.
 class reader {
 public:
-    /// What stands outside the objects is left empty where the document does not have it.
-    reader(const node& root, outside_texts& outside, report& told);
+    /// What stands outside the objects is left empty where the document does not have it. `kept`
+    /// takes what no field takes and the layout has, if the layout's rule of the root is given.
+    reader(const node& root, const table& known, const element_rule* rule, outside_texts& outside,
+           std::vector<placed_text>& kept, report& told);
 
     outside_texts& outside() const { return *outside_; }
 
@@ -98,6 +106,10 @@ public:
         if (!read_text(value, element.text, how)) {
             tell_refused(element, expected_text<Value>(element.text, how));
             return false;
+        }
+        if (gives_back<Value>(element.text) && !how.omit_default) {
+            tell_held(element);
+            return true;
         }
         value_chars own;
         if (!put_text(own, value, how)) {
@@ -128,12 +140,15 @@ public:
     void tell_otherwise(const node& element, std::string_view own);
     void tell_refused(const node& element, std::string expected);
     void tell_moved(const node& element, std::string to);
-    /// Tells that an element of several of its name is written as another one of them.
+    /// Tells that an element of several of its name is written as another one of them. It is told
+    /// before the element is read.
     void tell_renumbered(const node& element, std::size_t number);
     void tell_no_field(const node& element);
+    /// Tells that a group has a text of its own.
+    void tell_text_in_group(const node& group);
+    /// Whether the layout knows something of what is in an element.
+    bool rides_along(const node& element) const;
     void tell_no_room(const node& element);
-    /// Tells that a group has no room, unless what is in it was told.
-    void tell_empty(const node& element);
 
 private:
     frame read_elements(const table& known, const node& parent, void* object,
@@ -142,10 +157,31 @@ private:
               void* object, frame& read);
     void finish(const table& known, const frame& read, const node& parent, const void* object);
     void tell_inner(const node& element);
+    /// Tells of a group with nothing in it that no entry stored, and that is not written, and of
+    /// those in it.
+    void tell_lost(const table_name& name, const node& element, const node* written_parent);
+    /// Tells that an element is not where the layout has it, between those that stand beside it.
+    void tell_if_moved(const node& parent, const node& element);
+    /// The layout's rule of an element; null where it has none.
+    const element_rule* rule_of(const node& element) const;
+    /// What is known in an element, by any of those that read its parent; null where nothing is.
+    const table* table_of(const node& element) const;
+    bool has_field(const node& element) const;
+    /// Tells of an element that no entry reads: one has no field, or its field is of another kind
+    /// of element.
+    void tell_unread(const node& element);
+    /// The path of an element in the document that is written.
+    std::string written_path(const node& element);
+    void keep(const node& element, const element_rule& rule, const std::string& path);
     void tell_added(const node& parent, std::string_view path, std::string_view text);
 
     path_teller path_;
+    const node* root_;
+    const table* known_;       // in the root
+    const element_rule* rule_; // of the root
+    std::unordered_map<const node*, std::uint32_t> renumbered_;
     outside_texts* outside_;
+    std::vector<placed_text>* kept_;
     report* told_;
     core::v7::optional<std::string> string_; // its memory serves all texts
 };
@@ -184,6 +220,9 @@ private:
 /// The table of some entries of a class.
 template <class Class, class Entries> struct tables;
 
+/// A table of names that `Names::names` visits, without entries.
+template <class Names> struct name_tables;
+
 /// The table of a map.
 template <class Map> constexpr const table& table_of() {
     static_assert(
@@ -193,6 +232,15 @@ template <class Map> constexpr const table& table_of() {
 
 /// A name in the types of the map, as it stands in a document.
 template <characters Name> inline constexpr element_name name_of{Name.view()};
+
+/// A name that holds a value, or values, of a type.
+template <characters Name, class Value> constexpr table_name name_in_table() {
+    if constexpr (group<content_of<Value>>) {
+        return {name_of<Name>, &table_of<map_of<content_of<Value>>>(), true};
+    } else {
+        return {name_of<Name>};
+    }
+}
 
 /// What a field holds, in an element of its own, or in several of one name where it is a list.
 template <class Value> struct held {
@@ -301,7 +349,7 @@ struct choice<entries<Place...>, core::v7::variant<Alternative...>> {
 
     static bool knows(const element_name& name) {
         bool known = false;
-        names([&](const element_name& own) { known = known || own == name; });
+        names([&](const table_name& own) { known = known || own.name == name; });
         return known;
     }
 
@@ -356,7 +404,9 @@ struct choice<entries<Place...>, core::v7::variant<Alternative...>> {
 };
 
 template <characters Name, class Alternative> struct alternative<word::as<Name>, Alternative> {
-    template <class Visit> static constexpr void names(Visit visit) { visit(name_of<Name>); }
+    template <class Visit> static constexpr void names(Visit visit) {
+        visit(name_in_table<Name, Alternative>());
+    }
     static bool is_own(const node&, const node& first) { return first.name == name_of<Name>; }
 
     template <class Make>
@@ -381,11 +431,14 @@ template <characters Name, class... Place, class Alternative>
 struct alternative<word::inside<Name, Place...>, Alternative> {
     using inner = choice<entries<Place...>, Alternative>;
 
-    template <class Visit> static constexpr void names(Visit visit) { visit(name_of<Name>); }
+    template <class Visit> static constexpr void names(Visit visit) {
+        visit(table_name{name_of<Name>, &name_tables<inner>::whole});
+    }
     static bool is_own(const node&, const node& first) { return first.name == name_of<Name>; }
 
     template <class Make> static taken read(reader& in, const node&, const node& first, Make make) {
         taken result;
+        in.tell_text_in_group(first);
         for (const node& child : children(first)) {
             if (!inner::knows(child.name)) {
                 in.tell_no_field(child);
@@ -394,9 +447,6 @@ struct alternative<word::inside<Name, Place...>, Alternative> {
             } else {
                 result = inner::read(in, first, child, make);
             }
-        }
-        if (!result.stored) {
-            in.tell_empty(first);
         }
         return {result.stored};
     }
@@ -411,9 +461,9 @@ struct alternative<word::inside<Name, Place...>, Alternative> {
 template <characters Name, characters Text, class Alternative>
 struct alternative<word::marked_by<Name, Text>, Alternative> {
     template <class Visit> static constexpr void names(Visit visit) {
-        visit(name_of<Name>);
+        visit(table_name{name_of<Name>});
         for (const table_name& known : table_of<map_of<Alternative>>().names) {
-            visit(known.name);
+            visit(known);
         }
     }
 
@@ -453,8 +503,10 @@ auto& alternative_in(Variant& value) {
 }
 
 /// A word whose element has its name.
-template <characters Name> struct named_word {
-    template <class Visit> static constexpr void names(Visit visit) { visit(name_of<Name>); }
+template <characters Name, class Value = std::string> struct named_word {
+    template <class Visit> static constexpr void names(Visit visit) {
+        visit(name_in_table<Name, Value>());
+    }
 };
 
 /// What a word does in the map of a class: it knows the names of its elements, reads and writes.
@@ -482,9 +534,12 @@ template <class Value> const auto* content_in(const Value* value) {
 }
 
 template <class Class, characters Name, auto Get, auto Set, form How>
-struct action<Class, word::field<Name, Get, Set, How>> : named_word<Name> {
+struct action<Class, word::field<Name, Get, Set, How>>
+    : named_word<Name, typename accessor<Get, Set>::value_type> {
     using value_type = typename accessor<Get, Set>::value_type;
     static constexpr bool plain = is_plain<value_type>;
+    static_assert(group<content_of<value_type>> || single_value<content_of<value_type>>,
+                  "neither a class with a map nor a single value");
 
     static taken read(reader& in, const node& parent, const node& first, void* object) {
         auto& target = *static_cast<Class*>(object);
@@ -535,7 +590,8 @@ struct action<Class, word::behind<Name, Get, Set, Prefix>> : named_word<Name> {
 };
 
 template <class Class, characters Name, auto Get, auto Set, characters Attribute>
-struct action<Class, word::numbered<Name, Get, Set, Attribute>> : named_word<Name> {
+struct action<Class, word::numbered<Name, Get, Set, Attribute>>
+    : named_word<Name, typename accessor<Get, Set>::value_type> {
     using value_type = typename accessor<Get, Set>::value_type;
     static constexpr bool plain = false;
 
@@ -559,7 +615,7 @@ struct action<Class, word::embedded<Get, Set, Part>> {
 
     template <class Visit> static constexpr void names(Visit visit) {
         for (const table_name& known : table_of<Part>().names) {
-            visit(known.name);
+            visit(known);
         }
     }
 
@@ -581,8 +637,12 @@ struct action<Class, word::embedded<Get, Set, Part>> {
 };
 
 template <class Class, bool EvenEmpty, characters Name, class... Entry>
-struct action<Class, word::element<EvenEmpty, Name, Entry...>> : named_word<Name> {
+struct action<Class, word::element<EvenEmpty, Name, Entry...>> {
     static constexpr bool plain = true;
+
+    template <class Visit> static constexpr void names(Visit visit) {
+        visit(table_name{name_of<Name>, &tables<Class, entries<Entry...>>::whole});
+    }
 
     static taken read(reader& in, const node&, const node& first, void* object) {
         return {in.read_group(tables<Class, entries<Entry...>>::whole, first, object, EvenEmpty)};
@@ -627,9 +687,25 @@ struct action<Class, word::one_of<Get, Set, Place...>> {
 };
 
 template <class Class, characters Name, class... List>
-struct action<Class, word::sorted_by_content<Name, List...>> : named_word<Name> {
+struct action<Class, word::sorted_by_content<Name, List...>> {
     static constexpr bool plain = false;
     template <class Each> using item_of = content_of<typename Each::value_type>;
+
+    /// What is known in an element of any of the lists.
+    struct items {
+        template <class Visit> static constexpr void names(Visit visit) {
+            const auto visit_all = [&](const table& known) {
+                for (const table_name& name : known.names) {
+                    visit(name);
+                }
+            };
+            (visit_all(table_of<map_of<item_of<List>>>()), ...);
+        }
+    };
+
+    template <class Visit> static constexpr void names(Visit visit) {
+        visit(table_name{name_of<Name>, &name_tables<items>::whole});
+    }
 
     static taken read(reader& in, const node& parent, const node& first, void* object) {
         // the elements of each list, and behind them those of none
@@ -642,22 +718,23 @@ struct action<Class, word::sorted_by_content<Name, List...>> : named_word<Name> 
                 while (kind < known.size() && !known[kind]->knows_content_of(child)) {
                     ++kind;
                 }
-                sorted[kind].push_back(&child);
+                // the first list writes an element with nothing in it
+                sorted[kind < known.size() || in.rides_along(child) ? kind : 0].push_back(&child);
                 all.push_back(&child);
+            }
+        }
+        std::size_t place = 0;
+        for (const auto& elements : sorted) {
+            for (const node* const element : elements) {
+                if (all[place++] != element) {
+                    in.tell_renumbered(*element, place);
+                }
             }
         }
         std::size_t kind = 0;
         (read_list<List>(in, sorted[kind++], *static_cast<Class*>(object)), ...);
         for (const node* const element : sorted.back()) {
             in.tell_no_field(*element);
-        }
-        std::size_t place = 0;
-        for (kind = 0; kind < known.size(); ++kind) {
-            for (const node* const element : sorted[kind]) {
-                if (all[place++] != element) {
-                    in.tell_renumbered(*element, place);
-                }
-            }
         }
         return {true, true};
     }
@@ -709,7 +786,7 @@ struct action<Class, word::outside<Name, Member, Derive>> : named_word<Name> {
 template <class Class> struct table_filler {
     table_name* names = nullptr;
     table_entry* list = nullptr;
-    std::string_view* fields = nullptr; // the getters of the entries
+    const void** fields = nullptr; // what tells the accessors of the entries apart
     std::size_t name_count = 0;
     std::size_t entry_count = 0;
 
@@ -721,19 +798,19 @@ template <class Class> struct table_filler {
             requires { typename Entry::inner; } && !requires { Entry::name; }) {
             add_exclusive(typename Entry::inner());
         } else if constexpr (requires { action<Class, Entry>::plain; }) {
-            const std::string_view own_field = field_of<Entry>();
+            const void* const own_field = field_of<Entry>();
             if (list != nullptr) {
                 fields[entry_count] = own_field;
-                for (std::size_t index = 0; !own_field.empty() && index < entry_count; ++index) {
+                for (std::size_t index = 0; own_field != nullptr && index < entry_count; ++index) {
                     beside = fields[index] == own_field ? index : beside;
                 }
                 list[entry_count] = {&action<Class, Entry>::read, &action<Class, Entry>::write,
                                      stands<Entry>(), beside == table::none ? entry_count : beside,
                                      action<Class, Entry>::plain};
             }
-            action<Class, Entry>::names([&](const element_name& name) {
+            action<Class, Entry>::names([&](const table_name& name) {
                 if (names != nullptr) {
-                    names[name_count] = {name, entry_count};
+                    names[name_count] = {name.name, name.inner, name.of_object, entry_count};
                 }
                 ++name_count;
             });
@@ -751,15 +828,15 @@ private:
         (add<Entry>(first), ...);
     }
 
-    /// The getter of the field that an entry has, or has again.
-    template <class Entry> static constexpr std::string_view field_of() {
-        if constexpr (requires { Entry::getter_name; }) {
-            return Entry::getter_name;
+    /// Tells the field that an entry has, or has again, from others.
+    template <class Entry> static constexpr const void* field_of() {
+        if constexpr (requires { typename Entry::value_type; }) {
+            return &accessor<Entry::get, Entry::set>::identity;
         } else if constexpr (
             requires { typename Entry::entry; } && !requires { Entry::condition; }) {
             return field_of<typename Entry::entry>();
         } else {
-            return {};
+            return nullptr;
         }
     }
 
@@ -772,6 +849,24 @@ private:
             return nullptr;
         }
     }
+};
+
+template <class Names> struct name_tables {
+private:
+    static constexpr std::size_t count = [] {
+        std::size_t result = 0;
+        Names::names([&](const table_name&) { ++result; });
+        return result;
+    }();
+    static constexpr std::array<table_name, count> known = [] {
+        std::array<table_name, count> result{};
+        std::size_t index = 0;
+        Names::names([&](const table_name& name) { result[index++] = name; });
+        return result;
+    }();
+
+public:
+    static constexpr table whole{known, {}, 0, 0};
 };
 
 template <class Class, class Entries> struct tables {
@@ -789,7 +884,7 @@ private:
     };
     static constexpr filled_table filled = [] {
         filled_table result{};
-        std::array<std::string_view, counted.entry_count> fields{};
+        std::array<const void*, counted.entry_count> fields{};
         table_filler<Class> filler{result.names.data(), result.list.data(), fields.data()};
         filler.add_all(Entries());
         return result;
@@ -823,7 +918,9 @@ template <group Class> tree write_fields(std::string_view name, const Class& obj
 template <group Class> report read_fields(const node& element, Class& object) {
     report result;
     outside_texts outside;
-    reader(element, outside, result).read_whole(table_of<map_of<Class>>(), element, &object);
+    std::vector<placed_text> kept;
+    const table& known = table_of<map_of<Class>>();
+    reader(element, known, nullptr, outside, kept, result).read_whole(known, element, &object);
     return result;
 }
 

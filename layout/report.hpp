@@ -24,6 +24,7 @@ struct report {
     std::size_t texts_in_fields = 0; ///< how many of them are in a field
 
     std::vector<std::string> without_field; ///< paths; of a whole group, only its own
+    std::vector<std::string> unknown;       ///< paths of what the layout does not have there
     std::vector<remark> refused;            ///< texts that their field cannot hold; what it holds
     std::vector<remark> written_otherwise;  ///< held; as what, or where, they are written
     std::vector<remark> without_room;       ///< what the objects cannot tell beside what they hold

@@ -1,10 +1,10 @@
 #include <layout/tree.hpp>
 
+#include <layout/path_tree.hpp>
+
 #include <algorithm>
 #include <charconv>
 #include <cstring>
-#include <deque>
-#include <functional>
 #include <stdexcept>
 #include <utility>
 
@@ -34,6 +34,19 @@ void tree::add(const node& copied) {
     nodes_.insert(nodes_.end(), &copied, &copied + copied.size);
     node& top = nodes_[nodes_.size() - copied.size];
     top.up = static_cast<std::uint32_t>(nodes_.size() - copied.size - open_);
+}
+
+void tree::measure() {
+    for (std::size_t index = nodes_.size(); index-- > 1;) {
+        nodes_[index - nodes_[index].up].size += nodes_[index].size;
+    }
+}
+
+void tree::adopt_texts(tree& other) {
+    // in front: the last place is the one with room
+    texts_.insert(texts_.begin(), std::make_move_iterator(other.texts_.begin()),
+                  std::make_move_iterator(other.texts_.end()));
+    other = {};
 }
 
 void tree::make_room(std::size_t size) {
@@ -113,92 +126,67 @@ std::vector<placed_text> texts_of(const node& root) {
 
 namespace {
 
-/// A tree that grows anywhere.
-struct growing {
-    std::string_view name;
-    std::uint32_t number = 1;
-    core::v7::optional<std::string_view> text;
-    std::deque<growing> inner; // addresses have to stay
-
-    /// The element of this name and number in it, which is made unless it is there.
-    growing& in(std::string_view wanted, std::uint32_t wanted_number) {
-        std::uint32_t last = 0;
-        // texts come in order: what is looked for was usually named last
-        for (auto known = inner.rbegin(); known != inner.rend(); ++known) {
-            if (known->name == wanted) {
-                if (known->number == wanted_number) {
-                    return *known;
+/// Adds an element and what is in it, attributes first.
+void add_to(tree& result, const path_tree& element) {
+    const core::v7::optional<std::string_view>& text = element.text;
+    result.open(element_name(result.keep(element.name)), result.keep(text.value_or("")));
+    for (const bool attributes : {true, false}) {
+        std::unordered_map<std::string_view, std::uint32_t> numbers;
+        for (const path_tree& inner : element.inner) {
+            if (inner.name.starts_with('@') == attributes) {
+                if (inner.number != ++numbers[inner.name]) {
+                    throw std::invalid_argument(std::string(inner.path) + ": number " +
+                                                std::to_string(inner.number) +
+                                                " without those before it");
                 }
-                last = std::max(last, known->number);
-                if (last < wanted_number) {
-                    break;
-                }
+                add_to(result, inner);
             }
         }
-        if (wanted_number != last + 1) {
-            throw std::invalid_argument("number " + std::to_string(wanted_number) +
-                                        " without those before it");
-        }
-        inner.push_back({wanted, wanted_number, {}, {}});
-        return inner.back();
     }
-
-    void add_to(tree& result) const {
-        result.open(std::string_view(result.keep(name)), result.keep(text.value_or("")));
-        for (const bool attributes : {true, false}) {
-            for (const growing& element : inner) {
-                if (element.name.starts_with('@') == attributes) {
-                    element.add_to(result);
-                }
-            }
-        }
-        result.close();
-    }
-};
-
-/// Parts the first name, with its number, from a path.
-std::pair<std::string_view, std::uint32_t> take_name(std::string_view& path) {
-    std::string_view step = path.substr(0, path.find('/'));
-    path.remove_prefix(std::min(step.size() + 1, path.size()));
-    std::uint32_t number = 1;
-    if (const std::size_t bracket = step.find('['); bracket != step.npos) {
-        const std::string_view digits = step.substr(bracket + 1);
-        const char* const end = digits.data() + digits.size();
-        const auto [stop, error] = std::from_chars(digits.data(), end, number);
-        if (error != std::errc() || stop + 1 != end || *stop != ']' || number == 0) {
-            throw std::invalid_argument("no number in brackets");
-        }
-        step = step.substr(0, bracket);
-    }
-    if (step.find_first_not_of('@') == step.npos) {
-        throw std::invalid_argument("an element without a name");
-    }
-    return {step, number};
+    result.close();
 }
 
 } // namespace
 
 tree tree_of(std::string_view root, const std::vector<placed_text>& texts) {
-    growing top{root, 1, {}, {}};
-    for (const placed_text& placed : texts) {
-        try {
-            growing* element = &top;
-            std::string_view rest = placed.path;
-            do {
-                const auto [name, number] = take_name(rest);
-                element = &element->in(name, number);
-            } while (!rest.empty());
-            if (element->text) {
-                throw std::invalid_argument("named twice");
-            }
-            element->text = placed.text;
-        } catch (const std::invalid_argument& failure) {
-            throw std::invalid_argument(placed.path + ": " + failure.what());
-        }
-    }
     tree result;
-    top.add_to(result);
+    path_tree all{root, 1, {}, {}, {}};
+    for (const placed_text& placed : texts) {
+        all.add(placed);
+    }
+    add_to(result, all);
     return result;
+}
+
+void take_out(std::vector<placed_text>& texts, std::string_view path) {
+    const std::size_t bracket = path.rfind('[');
+    std::size_t number = 0;
+    const auto number_in = [&](std::string_view digits, std::size_t& result) {
+        const char* const end = digits.data() + digits.size();
+        const auto [stop, error] = std::from_chars(digits.data(), end, result);
+        return error == std::errc() && stop != end && *stop == ']' ? stop + 1 : nullptr;
+    };
+    if (bracket == path.npos ||
+        number_in(path.substr(bracket + 1), number) != path.data() + path.size()) {
+        throw std::invalid_argument(std::string(path) + ": no number at its end");
+    }
+    const std::string_view before = path.substr(0, bracket + 1);
+    std::vector<placed_text> left;
+    for (placed_text& placed : texts) {
+        std::size_t own = 0;
+        const char* const behind =
+            placed.path.starts_with(before)
+                ? number_in(std::string_view(placed.path).substr(before.size()), own)
+                : nullptr;
+        if (behind != nullptr && own == number) {
+            continue;
+        }
+        if (behind != nullptr && own > number) {
+            placed.path = std::string(before) + std::to_string(own - 1) + ']' + behind;
+        }
+        left.push_back(std::move(placed));
+    }
+    texts = std::move(left);
 }
 
 namespace {

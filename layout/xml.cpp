@@ -1,16 +1,21 @@
 #include <layout/xml.hpp>
 
+#include <layout/elements.hpp>
 #include <layout/engine.hpp>
 #include <layout/invoice.hpp>
+#include <layout/kept.hpp>
 #include <layout/xml_text.hpp>
 
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
+#include <utility>
 
 namespace kivo::erp::v12::layout {
 
 namespace {
+
+constexpr const table& invoice_table() { return table_of<map_of<fiscal::nota_fiscal>>(); }
 
 const node& only_child(const node& parent, const element_name& name) {
     const node* const found = child_named(parent, name);
@@ -41,10 +46,10 @@ void add_beside(const node& parent, const node& invoice, path_teller& path,
     }
 }
 
+/// Writes the infNFe element of an invoice into a document.
 void write_invoice(tree& out, const fiscal::nota_fiscal& invoice, const outside_texts& outside) {
-    out.expect(1024); // elements of an invoice with a few items
     out.open("infNFe");
-    writer(out, outside).write_whole(table_of<map_of<fiscal::nota_fiscal>>(), &invoice);
+    writer(out, outside).write_whole(invoice_table(), &invoice);
     out.close();
 }
 
@@ -62,8 +67,8 @@ const node& invoice_in(const tree& document) {
 invoice_document read_document(const tree& document) {
     const node& infnfe = invoice_in(document);
     invoice_document result;
-    reader(infnfe, result.outside, result.report)
-        .read_whole(table_of<map_of<fiscal::nota_fiscal>>(), infnfe, &result.invoice);
+    reader(infnfe, invoice_table(), &infnfe_rule(), result.outside, result.kept, result.report)
+        .read_whole(invoice_table(), infnfe, &result.invoice);
     path_teller path(document.root());
     add_beside(document.root(), infnfe, path, result.beside);
     return result;
@@ -94,19 +99,33 @@ invoice_document read_file(const std::string& path) { return from_file(path, rea
 
 tree parse_file(const std::string& path) { return from_file(path, parse_xml); }
 
-tree write_tree(const fiscal::nota_fiscal& invoice, const outside_texts& outside) {
+tree write_tree(const fiscal::nota_fiscal& invoice, const outside_texts& outside,
+                const std::vector<placed_text>& kept) {
     tree result;
+    result.expect(1024); // elements of an invoice with a few items
     write_invoice(result, invoice, outside);
-    return result;
+    return kept.empty() ? std::move(result) : with_kept(std::move(result), kept, invoice_table());
 }
 
-std::string write_xml(const fiscal::nota_fiscal& invoice, const outside_texts& outside) {
+std::string write_xml(const fiscal::nota_fiscal& invoice, const outside_texts& outside,
+                      const std::vector<placed_text>& kept) {
     tree document;
+    document.expect(1024);
     document.open("NFe");
     document.add("@xmlns", "http://www.portalfiscal.inf.br/nfe");
-    write_invoice(document, invoice, outside);
+    tree whole; // keeps the texts
+    if (kept.empty()) {
+        write_invoice(document, invoice, outside);
+    } else {
+        whole = write_tree(invoice, outside, kept);
+        document.add(whole.root());
+    }
     document.close();
     return xml_text(document.root());
+}
+
+std::string write_xml(const invoice_document& document) {
+    return write_xml(document.invoice, document.outside, document.kept);
 }
 
 } // namespace kivo::erp::v12::layout

@@ -18,7 +18,9 @@ namespace kivo::erp::v12::layout {
 struct invoice_document {
     fiscal::nota_fiscal invoice; ///< what has a field
     outside_texts outside;       ///< what has none, but is demanded
-    layout::report report;       ///< what became of the elements of infNFe
+    /// What has none and rides along: the texts of the layout's other elements.
+    std::vector<placed_text> kept;
+    layout::report report; ///< what became of the elements of infNFe
     /// Paths of what stands around infNFe, such as the signature, from the document's root.
     std::vector<std::string> beside;
 };
@@ -41,11 +43,20 @@ invoice_document read_file(const std::string& path);
 /// The XML document of a file; throws as `parse_xml` and `read_file` do.
 tree parse_file(const std::string& path);
 
-/// The infNFe element of an invoice, its elements in the layout's order.
-tree write_tree(const fiscal::nota_fiscal& invoice, const outside_texts& outside = {});
+/// The infNFe element of an invoice, its elements in the layout's order. What is kept is put into
+/// its places. Throws std::invalid_argument for a path that leads to an element with a field, to
+/// one that the layout does not have there, to one more than it takes, or into a group that the
+/// invoice does not have.
+tree write_tree(const fiscal::nota_fiscal& invoice, const outside_texts& outside = {},
+                const std::vector<placed_text>& kept = {});
 
-/// An unsigned NFe document in UTF-8. The schema accepts it where the invoice holds what the
-/// schema demands. Throws std::runtime_error for texts that XML cannot hold.
-std::string write_xml(const fiscal::nota_fiscal& invoice, const outside_texts& outside = {});
+/// An unsigned NFe document in UTF-8. The schema accepts it where the invoice, and what is kept,
+/// hold what the schema demands. Throws as `write_tree` does, and std::runtime_error for texts that
+/// XML cannot hold.
+std::string write_xml(const fiscal::nota_fiscal& invoice, const outside_texts& outside = {},
+                      const std::vector<placed_text>& kept = {});
+
+/// The same of all that was read and may have changed since.
+std::string write_xml(const invoice_document& document);
 
 } // namespace kivo::erp::v12::layout

@@ -83,6 +83,7 @@ std::string json_of(const std::string& file, const layout::tree& tree,
     add("invoice", text(invoice));
     add("texts", list(texts, how));
     add("beside", list(beside, how));
+    add("unknown", list({told.unknown.begin(), told.unknown.end()}, how));
     add("without_field", list({told.without_field.begin(), told.without_field.end()}, how));
     add("refused", list(remarks(told.refused), how));
     add("written_otherwise", list(remarks(told.written_otherwise), how));
@@ -91,8 +92,9 @@ std::string json_of(const std::string& file, const layout::tree& tree,
     return harmless_json(result + '}');
 }
 
-std::string xml_of(const layout::invoice_document& document) {
-    return harmless_xml(layout::write_xml(document.invoice, document.outside));
+std::string xml_of(const layout::invoice_document& document, bool only_fields) {
+    return harmless_xml(only_fields ? layout::write_xml(document.invoice, document.outside)
+                                    : layout::write_xml(document));
 }
 
 bool write_differences(const std::string& left_path, const layout::tree& left,

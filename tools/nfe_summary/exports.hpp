@@ -18,8 +18,8 @@ enum class spread {
 std::string json_of(const std::string& file, const layout::tree& tree,
                     const layout::invoice_document& document, spread how);
 
-/// An unsigned document.
-std::string xml_of(const layout::invoice_document& document);
+/// An unsigned document: all that was read, or only what has a field.
+std::string xml_of(const layout::invoice_document& document, bool only_fields);
 
 /// Writes the texts in which two documents differ, by path: those of the first behind -, those of
 /// the second behind +. Answers whether there are any.

@@ -50,13 +50,13 @@ int run_xml(const arguments& given) {
     std::string xml;
     try {
         document = read_invoice(*file.invoices.front());
-        xml = xml_of(document);
+        xml = xml_of(document, given.only_fields);
     } catch (const std::exception& failure) {
         throw std::runtime_error(path + ": " + translated(failure.what()));
     }
     fmt::print("{}\n", xml);
     const std::vector<std::string> lost = paths_without_field(document.report);
-    if (!lost.empty()) {
+    if (given.only_fields && !lost.empty()) {
         complain(path, say("left out, without a field: {}", joined(lost)));
     }
     for (const std::string& change : changes(document.report)) {

@@ -18,7 +18,21 @@ namespace nfe_summary {
 namespace {
 
 /// In the order of the table.
-enum class id { by, csv, items, json, xml, diff, check, width, limit, lang, help, version };
+enum class id {
+    by,
+    csv,
+    items,
+    json,
+    xml,
+    only_fields,
+    diff,
+    check,
+    width,
+    limit,
+    lang,
+    help,
+    version
+};
 
 constexpr std::array option_table{
     option_text{"by", mark("WHAT"), groupings,
@@ -33,6 +47,8 @@ constexpr std::array option_table{
                      "there are several; what is written can be given as a FILE again")},
     option_text{"xml", nullptr, nullptr,
                 mark("Write the invoice of a file as an unsigned XML document")},
+    option_text{"only-fields", nullptr, nullptr,
+                mark("With --xml, leave out the elements for which the library has no field")},
     option_text{"diff", nullptr, nullptr, mark("Write what differs between two files, by path")},
     option_text{"check", nullptr, nullptr,
                 mark("Write what the layout does not allow in each invoice, a line each")},
@@ -128,6 +144,9 @@ void take(arguments& given, std::size_t index, const char* value) {
     case id::xml:
         write(output::xml);
         break;
+    case id::only_fields:
+        given.only_fields = true;
+        break;
     case id::diff:
         write(output::differences);
         break;
@@ -162,6 +181,9 @@ void check(const arguments& given) {
     }
     if (given.items && given.wanted != output::csv) {
         throw usage_error(tr("--items goes with --csv"));
+    }
+    if (given.only_fields && given.wanted != output::xml) {
+        throw usage_error(tr("--only-fields goes with --xml"));
     }
     if (given.by != grouping::none && given.wanted != output::summary) {
         throw usage_error(tr("--by goes with none of --csv, --json, --xml, --diff and --check"));

@@ -19,6 +19,7 @@ struct arguments {
     std::vector<std::string> paths;
     output wanted = output::summary;
     grouping by = grouping::none;
+    bool only_fields = false;             ///< --xml: without what has no field
     bool items = false;                   ///< --csv: a line for each
     std::size_t limit = 64 * 1024 * 1024; ///< bytes of a file
     std::size_t width = 0;                ///< 0: the terminal's

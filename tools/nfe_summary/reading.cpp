@@ -77,6 +77,9 @@ std::vector<std::string> changes(const layout::report& told) {
     for (const auto& lost : told.without_room) {
         texts.push_back(say("{}: no room for {}", lost.path, in_quotes(lost.text)));
     }
+    for (const std::string& path : told.unknown) {
+        texts.push_back(say("{}: the layout has no such element", path));
+    }
     for (const auto& added : told.added) {
         texts.push_back(say("{}: {} is written in addition", added.path, in_quotes(added.instead)));
     }

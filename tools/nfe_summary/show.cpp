@@ -187,7 +187,8 @@ void show_payment(const page& out, const nota_fiscal& invoice) {
         payments.push_back(joined(
             {name_of(part.get_meio_pagamento()), part.get_descricao_meio_pagamento().value_or(""),
              terms ? name_of(*terms) : "", day(part.get_data_pagamento()),
-             labelled(tr("authorisation no."), card ? card->get_numero_autorizacao() : std::nullopt)}));
+             labelled(tr("authorisation no."),
+                      card ? card->get_numero_autorizacao() : std::nullopt)}));
     }
     out.fields(tr("Payments"), behind_amounts(amounts, payments));
     out.field(tr("Change"), amount(payment.get_valor_total_troco()));

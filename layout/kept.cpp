@@ -1,0 +1,140 @@
+#include <layout/kept.hpp>
+
+#include <layout/elements.hpp>
+#include <layout/path_tree.hpp>
+
+#include <algorithm>
+#include <stdexcept>
+#include <string>
+#include <tuple>
+#include <unordered_map>
+#include <utility>
+
+namespace kivo::erp::v12::layout {
+
+namespace {
+
+[[noreturn]] void refuse(const path_tree& kept, const std::string& reason) {
+    throw std::invalid_argument(std::string(kept.path) + ": " + reason);
+}
+
+/// What stands in a group: written, kept, or both.
+struct part {
+    unsigned position;
+    std::uint32_t number;
+    const node* written;
+    const path_tree* kept;
+};
+
+class merger {
+public:
+    explicit merger(tree& out) : out_(&out) {}
+
+    /// Adds what is written in a group, or null where it is not there, and what is kept in it. The
+    /// table knows what has a field there; null where nothing has.
+    void add(const node* written, const path_tree& kept, const table* known,
+             const element_rule& rule) {
+        std::vector<part> parts;
+        std::unordered_map<std::string_view, std::uint32_t> counts;
+        std::size_t met = 0; // kept elements that are parts
+        if (written != nullptr) {
+            for (const node& child : children(*written)) {
+                const element_rule* const own = rule.child(child.name);
+                const std::uint32_t number = ++counts[child.name];
+                const path_tree* const beside = kept.find(child.name, number);
+                met += beside == nullptr ? 0 : 1;
+                parts.push_back({own == nullptr ? 0 : own->position(), number, &child, beside});
+            }
+        }
+        if (met != kept.inner.size()) {
+            for (const path_tree& element : kept.inner) {
+                const bool is_written =
+                    std::any_of(parts.begin(), parts.end(),
+                                [&](const part& each) { return each.kept == &element; });
+                if (!is_written) {
+                    parts.push_back(checked(element, known, rule, counts));
+                }
+            }
+            std::stable_sort(parts.begin(), parts.end(), [](const part& left, const part& right) {
+                return std::tie(left.position, left.number) <
+                       std::tie(right.position, right.number);
+            });
+        }
+        for (const part& each : parts) {
+            add(each, known, rule);
+        }
+    }
+
+private:
+    /// A kept element that is not written, if it can stand in its group.
+    static part checked(const path_tree& element, const table* known, const element_rule& rule,
+                        std::unordered_map<std::string_view, std::uint32_t>& counts) {
+        const table_name* const field = find(known, element.name);
+        if (field != nullptr && field->inner == nullptr) {
+            refuse(element, "the element has a field");
+        }
+        if (field != nullptr && field->of_object) {
+            refuse(element, "the invoice has no such " + std::string(element.name));
+        }
+        const element_rule* const own = rule.child(element.name);
+        if (own == nullptr) {
+            refuse(element, "the layout has no " + std::string(element.name) + " there");
+        }
+        if (element.number > own->most()) {
+            refuse(element, "the layout takes no more than " + std::to_string(own->most()));
+        }
+        if (element.number != ++counts[element.name]) {
+            refuse(element,
+                   "number " + std::to_string(element.number) + " without those before it");
+        }
+        return {own->position(), element.number, nullptr, &element};
+    }
+
+    static const table_name* find(const table* known, std::string_view name) {
+        const std::size_t at = known == nullptr ? table::none : known->find(name);
+        return at == table::none ? nullptr : &known->names[at];
+    }
+
+    void add(const part& each, const table* known, const element_rule& rule) {
+        if (each.kept == nullptr) {
+            out_->add(*each.written);
+            return;
+        }
+        const path_tree& kept = *each.kept;
+        const element_rule& own = *rule.child(kept.name);
+        const table_name* const field = find(known, kept.name);
+        if (field != nullptr && field->inner == nullptr) {
+            refuse(kept, "the element has a field");
+        }
+        if (own.is_group() ? kept.text && !kept.text->empty() : !kept.inner.empty()) {
+            refuse(kept, own.is_group() ? "the element is a group" : "the element is a text");
+        }
+        if (each.written != nullptr) {
+            out_->open(each.written->name, each.written->text);
+        } else {
+            out_->open(element_name(out_->keep(kept.name)), out_->keep(kept.text.value_or("")));
+        }
+        add(each.written, kept, field == nullptr ? nullptr : field->inner, own);
+        out_->close();
+    }
+
+    tree* out_;
+};
+
+} // namespace
+
+tree with_kept(tree written, const std::vector<placed_text>& kept, const table& known) {
+    path_tree all{written.root().name, 1, {}, {}, {}};
+    for (const placed_text& placed : kept) {
+        all.add(placed);
+    }
+    tree result;
+    result.expect(written.root().size + kept.size());
+    result.open(written.root().name);
+    merger(result).add(&written.root(), all, &known, infnfe_rule());
+    result.close();
+    result.adopt_texts(written);
+    return result;
+}
+
+} // namespace kivo::erp::v12::layout

@@ -1,0 +1,210 @@
+#include "support/documents.hpp"
+#include "support/round_trip.hpp"
+
+#include <layout/check.hpp>
+#include <layout/xml.hpp>
+#include <layout/xml_text.hpp>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+/// Documents that nobody wrote, through the objects and back.
+namespace kivo::tests {
+
+using namespace erp::v12::layout;
+
+/// Documents that differ from sound ones in one point each.
+class variations : public ::testing::Test {
+protected:
+    /// Tries a document; `what` names the point.
+    void try_document(const element& infnfe, const std::string& what) {
+        ++tried_;
+        std::string told;
+        try {
+            for (const std::string& fault : faults_of_round_trip(document_of(infnfe))) {
+                told += "\n    " + fault;
+            }
+        } catch (const std::exception& failure) {
+            told = std::string("\n    ") + failure.what();
+        }
+        if (!told.empty() && ++failed_ <= 20) {
+            ADD_FAILURE() << what << told;
+        }
+    }
+
+    ~variations() override {
+        EXPECT_LE(failed_, 20) << "only the first of them are shown";
+        RecordProperty("documents", tried_);
+    }
+
+private:
+    int tried_ = 0;
+    int failed_ = 0;
+};
+
+/// A document on one line for each element, so that two of them can be compared.
+std::string lines_of(std::string xml) {
+    for (std::size_t at = 0; (at = xml.find("><", at)) != xml.npos;) {
+        xml.insert(++at, "\n");
+    }
+    return xml;
+}
+
+// Catches a text of an element that is lost, bent, or told of for nothing.
+TEST_F(variations, of_each_text_that_an_element_may_have) {
+    for_each_rule([&](const element_rule& rule) {
+        for (const std::string& text :
+             rule.is_group() ? std::vector<std::string>{""} : texts_for(rule)) {
+            const element infnfe = small_document{&rule, 1, text}.infnfe();
+            EXPECT_TRUE(check(tree_of(infnfe).root()).empty())
+                << rule.path() << " \"" << text << '"';
+            try_document(infnfe, rule.path() + " \"" + text + '"');
+        }
+    });
+}
+
+// Catches a text that the layout does not allow, and that is bent to fit without a word.
+TEST_F(variations, of_texts_that_an_element_may_not_have) {
+    for_each_rule([&](const element_rule& rule) {
+        const std::string own = rule.is_group() ? "" : texts_for(rule).front();
+        for (const std::string& text :
+             {std::string(), std::string(" "), std::string("x"), ' ' + own, own + ' ', '0' + own,
+              own + '0', own + 'x', '-' + own, own + ".0", std::string("18446744073709551617"),
+              std::string("00000000000000"), std::string("\n\t&<\"\u20AC")}) {
+            try_document(small_document{&rule, 1, text}.infnfe(), rule.path() + " \"" + text + '"');
+        }
+    });
+}
+
+// Catches an element of several that is lost, and one too many that is written or not told.
+TEST_F(variations, of_how_often_an_element_stands) {
+    for_each_rule([&](const element_rule& rule) {
+        for (const unsigned times : {0U, 2U, rule.most() + 1}) {
+            if (times > 1 && rule.is_attribute()) {
+                continue; // no XML document
+            }
+            try_document(small_document{&rule, times}.infnfe(),
+                         rule.path() + ", " + std::to_string(times) + " times");
+        }
+    });
+}
+
+/// Calls `visit(document, rule)` for each element of the layout, with a large document that has it.
+template <class Visit> void for_each_in_large_documents(Visit visit) {
+    const std::vector<element> all = large_documents();
+    for_each_rule([&](const element_rule& rule) {
+        const auto has_it = [&](const element& infnfe) { return has(infnfe, rule.path()); };
+        const auto found = std::find_if(all.begin(), all.end(), has_it);
+        ASSERT_NE(found, all.end()) << rule.path();
+        visit(*found, rule);
+    });
+}
+
+// Catches an element whose absence is read as a value, and one that is lost with its neighbour.
+TEST_F(variations, of_large_documents_without_an_element_and_its_neighbour) {
+    for (const element& infnfe : large_documents()) {
+        EXPECT_TRUE(check(tree_of(infnfe).root()).empty());
+        try_document(infnfe, "as it is");
+    }
+    for_each_in_large_documents([&](element infnfe, const element_rule& rule) {
+        element& parent = infnfe.at(rule.parent()->path());
+        const auto at = parent.inner.begin() + (parent.find(rule.name()) - parent.inner.data());
+        const auto next = parent.inner.erase(at);
+        try_document(infnfe, "without " + rule.path());
+        if (next != parent.inner.end()) {
+            const std::string name = next->name;
+            parent.inner.erase(next);
+            try_document(infnfe, "without " + rule.path() + " and " + name);
+        }
+    });
+}
+
+// Catches a group that is lost because it is empty, or made of what is not there.
+TEST_F(variations, of_large_documents_with_a_group_that_is_empty_or_almost) {
+    for_each_in_large_documents([&](element infnfe, const element_rule& rule) {
+        element& changed = infnfe.at(rule.path());
+        const std::vector<element> content = std::exchange(changed.inner, {});
+        changed.text.clear();
+        try_document(infnfe, rule.path() + " empty");
+        for (const element& inner : content) {
+            changed.inner = {inner};
+            try_document(infnfe, rule.path() + " with nothing but " + inner.name);
+        }
+    });
+}
+
+// Catches what the layout does not know, or not there, and that is lost or written anywhere.
+TEST_F(variations, of_what_stands_where_nothing_knows_it) {
+    for_each_rule([&](const element_rule& rule) {
+        for (const element& foreign : {element{"xNada", "1", {}}, element{"@cor", "azul", {}},
+                                       element{"ide", "", {{"cUF", "35", {}}}}}) {
+            element infnfe = small_document{&rule}.infnfe();
+            element& changed = infnfe.at(rule.path());
+            if (!rule.is_attribute()) {
+                changed.inner.insert(changed.inner.begin(), foreign);
+                try_document(infnfe, rule.path() + " with " + foreign.name + " in it");
+            }
+        }
+        element infnfe = small_document{&rule}.infnfe();
+        infnfe.at(rule.path()).name = rule.is_attribute() ? "@outro" : "outro";
+        try_document(infnfe, rule.path() + " under another name");
+    });
+}
+
+// Catches elements that change places without a word.
+TEST_F(variations, of_the_order_of_elements) {
+    for_each_in_large_documents([&](element infnfe, const element_rule& rule) {
+        element& parent = infnfe.at(rule.parent()->path());
+        const auto own = parent.inner.begin() + (parent.find(rule.name()) - parent.inner.data());
+        if (own + 1 != parent.inner.end()) {
+            std::iter_swap(own, own + 1);
+            try_document(infnfe, rule.path() + " and " + own->name + " in the other's place");
+            std::iter_swap(own, own + 1);
+            std::rotate(own, own + 1, parent.inner.end());
+            try_document(infnfe, rule.path() + " behind all others");
+        }
+    });
+}
+
+// Catches an element that takes the place of another, of which there can be only one.
+TEST_F(variations, of_elements_that_exclude_each_other) {
+    for_each_rule([&](const element_rule& rule) {
+        for (const element_rule& other : rule.parent()->children()) {
+            if (exclude_each_other(rule, other)) {
+                element infnfe = small_document{&rule}.infnfe();
+                const element added = small_document{&other}.infnfe().at(other.path());
+                element& parent = infnfe.at(rule.parent()->path());
+                parent.inner.push_back(added);
+                try_document(infnfe, rule.path() + " before " + added.name);
+                std::rotate(parent.inner.begin(), parent.inner.end() - 1, parent.inner.end());
+                try_document(infnfe, rule.path() + " behind " + added.name);
+            }
+        }
+    });
+}
+
+// Catches an element without a field that does not ride along where nothing is wrong with it.
+TEST_F(variations, of_large_documents_ride_along_whole) {
+    std::set<std::string> without_field;
+    for (const element& infnfe : large_documents()) {
+        const std::string xml = document_of(infnfe);
+        const invoice_document document = read_xml(xml);
+        for (const auto* const list : {&document.report.refused, &document.report.written_otherwise,
+                                       &document.report.without_room, &document.report.added}) {
+            EXPECT_TRUE(list->empty()) << list->front().path << ' ' << list->front().text;
+        }
+        EXPECT_EQ(document.report.unknown, std::vector<std::string>());
+        EXPECT_EQ(lines_of(write_xml(document)), lines_of(xml));
+        for (const std::string& path : document.report.without_field) {
+            without_field.insert(rule_at(path)->path());
+        }
+    }
+    EXPECT_GE(without_field.size(), 70U);
+}
+
+} // namespace kivo::tests
