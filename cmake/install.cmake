@@ -1,5 +1,5 @@
 # What is installed, by component: runtime is the library, development what it takes to compile
-# against it, layout the layout map. Nothing of it knows where it stands: a tree may be moved.
+# against it, layout the layout map, tools the program over it. Nothing of it knows where it stands: a tree may be moved.
 
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
@@ -43,6 +43,12 @@ configure_file(cmake/kivo-erp-fiscal.pc.in "${generated_dir}/kivo-erp-fiscal.pc"
 install(FILES "${generated_dir}/kivo-erp-fiscal.pc"
     DESTINATION "${pkgconfig_dir}" COMPONENT development)
 
+set(development_documents "${CMAKE_INSTALL_DATADIR}/doc/libkivo-erp-fiscal-dev")
+install(FILES docs/guide.md docs/guia.md
+    DESTINATION "${development_documents}" COMPONENT development)
+install(FILES examples/first_invoice.cpp
+    DESTINATION "${development_documents}/examples" COMPONENT development)
+
 if(KIVO_BUILD_LAYOUT)
     install(TARGETS kivo-erp-fiscal-layout
         EXPORT kivo-erp-fiscal-layout
@@ -55,4 +61,30 @@ if(KIVO_BUILD_LAYOUT)
         "${generated_dir}/kivo-erp-fiscal-layout.pc" @ONLY)
     install(FILES "${generated_dir}/kivo-erp-fiscal-layout.pc"
         DESTINATION "${pkgconfig_dir}" COMPONENT layout)
+endif()
+
+if(KIVO_BUILD_TOOLS)
+    # where the loader looks by itself, a path of our own would only be in the way
+    if(NOT CMAKE_INSTALL_PREFIX STREQUAL "/usr")
+        set_target_properties(nfe_summary PROPERTIES
+            INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+    endif()
+    install(TARGETS nfe_summary RUNTIME COMPONENT tools)
+    set(tool_files "${PROJECT_BINARY_DIR}/tools/nfe_summary")
+    install(DIRECTORY "${tool_files}/locale"
+        DESTINATION "${CMAKE_INSTALL_DATADIR}" COMPONENT tools)
+    foreach(file
+            manual.en.gz:man/man1/nfe_summary.1.gz
+            manual.pt_BR.gz:man/pt_BR/man1/nfe_summary.1.gz
+            bash.en:bash-completion/completions/nfe_summary
+            zsh.en:zsh/vendor-completions/_nfe_summary
+            fish.en:fish/vendor_completions.d/nfe_summary.fish)
+        string(REPLACE ":" ";" source_and_place "${file}")
+        list(GET source_and_place 0 source)
+        list(GET source_and_place 1 place)
+        get_filename_component(folder "${place}" DIRECTORY)
+        get_filename_component(name "${place}" NAME)
+        install(FILES "${tool_files}/beside/${source}"
+            DESTINATION "${CMAKE_INSTALL_DATADIR}/${folder}" RENAME "${name}" COMPONENT tools)
+    endforeach()
 endif()

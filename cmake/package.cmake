@@ -22,9 +22,13 @@ set(runtime_package "libkivo-erp-fiscal${PROJECT_VERSION_MAJOR}")
 set(symbols_package "${runtime_package}-dbgsym")
 set(development_package libkivo-erp-fiscal-dev)
 set(layout_package libkivo-erp-fiscal-layout-dev)
+set(tools_package kivo-erp-fiscal-tools)
 set(CPACK_COMPONENTS_ALL runtime symbols development)
 if(KIVO_BUILD_LAYOUT)
     list(APPEND CPACK_COMPONENTS_ALL layout)
+endif()
+if(KIVO_BUILD_TOOLS)
+    list(APPEND CPACK_COMPONENTS_ALL tools)
 endif()
 
 set(summary "content of a Brazilian electronic invoice, in C++20 classes")
@@ -76,6 +80,16 @@ set(CPACK_DEBIAN_LAYOUT_PACKAGE_DEPENDS
 set(CPACK_DEBIAN_LAYOUT_DESCRIPTION "layout map of the NF-e over libkivo-erp-fiscal
 For each field of an invoice, the map tells which element of the layout it is.
 With it a program reads and writes XML documents, or walks all fields.")
+
+set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME ${tools_package})
+set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION utils)
+set(CPACK_DEBIAN_TOOLS_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${PROJECT_BINARY_DIR}/fiscal")
+set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "${runtime_package} (>= ${PROJECT_VERSION})")
+set(CPACK_DEBIAN_TOOLS_DESCRIPTION "shows, sums, checks and converts Brazilian invoices
+nfe_summary shows NF-e and NFC-e files to a person, in Portuguese or English:
+one invoice whole, or the sums of whole folders. It compares invoices, checks
+them against the layout, and writes them as CSV, JSON or XML.")
 
 if(KIVO_BUILD_LAYOUT)
     # CMake itself strips no static library

@@ -242,7 +242,7 @@ arguments read_arguments(int argc, char** argv) {
 std::string help_text() {
     constexpr std::size_t width = 80;
     constexpr std::size_t indent = 18;
-    std::string result = std::string(tr("Usage: nfe_summary [OPTION...] FILE...")) + "\n\n";
+    std::string result = say("Usage: {}", "nfe_summary ") + tr("[OPTION...] FILE...") + "\n\n";
     const auto add = [&](std::string_view head, std::string_view text, std::size_t column) {
         std::string first(head);
         for (const std::string& line : wrapped(text, width - column)) {
