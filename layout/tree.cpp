@@ -3,6 +3,7 @@
 #include <layout/path_tree.hpp>
 
 #include <algorithm>
+#include <charconv>
 #include <cstring>
 #include <stdexcept>
 #include <utility>
@@ -33,6 +34,12 @@ void tree::add(const node& copied) {
     nodes_.insert(nodes_.end(), &copied, &copied + copied.size);
     node& top = nodes_[nodes_.size() - copied.size];
     top.up = static_cast<std::uint32_t>(nodes_.size() - copied.size - open_);
+}
+
+void tree::measure() {
+    for (std::size_t index = nodes_.size(); index-- > 1;) {
+        nodes_[index - nodes_[index].up].size += nodes_[index].size;
+    }
 }
 
 void tree::adopt_texts(tree& other) {
@@ -149,6 +156,37 @@ tree tree_of(std::string_view root, const std::vector<placed_text>& texts) {
     }
     add_to(result, all);
     return result;
+}
+
+void take_out(std::vector<placed_text>& texts, std::string_view path) {
+    const std::size_t bracket = path.rfind('[');
+    std::size_t number = 0;
+    const auto number_in = [&](std::string_view digits, std::size_t& result) {
+        const char* const end = digits.data() + digits.size();
+        const auto [stop, error] = std::from_chars(digits.data(), end, result);
+        return error == std::errc() && stop != end && *stop == ']' ? stop + 1 : nullptr;
+    };
+    if (bracket == path.npos ||
+        number_in(path.substr(bracket + 1), number) != path.data() + path.size()) {
+        throw std::invalid_argument(std::string(path) + ": no number at its end");
+    }
+    const std::string_view before = path.substr(0, bracket + 1);
+    std::vector<placed_text> left;
+    for (placed_text& placed : texts) {
+        std::size_t own = 0;
+        const char* const behind =
+            placed.path.starts_with(before)
+                ? number_in(std::string_view(placed.path).substr(before.size()), own)
+                : nullptr;
+        if (behind != nullptr && own == number) {
+            continue;
+        }
+        if (behind != nullptr && own > number) {
+            placed.path = std::string(before) + std::to_string(own - 1) + ']' + behind;
+        }
+        left.push_back(std::move(placed));
+    }
+    texts = std::move(left);
 }
 
 namespace {

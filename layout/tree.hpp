@@ -18,6 +18,21 @@
 /// Documents as trees of elements, without the objects and without XML.
 namespace kivo::erp::v12::layout {
 
+/// The text that ends with a zero and has eight characters more behind it. Most are short: it
+/// takes less than a call to find their end.
+inline std::string_view text_in_buffer(const char* text) {
+    if constexpr (std::endian::native == std::endian::little) {
+        std::uint64_t first = 0;
+        std::memcpy(&first, text, sizeof first);
+        const std::uint64_t zeros =
+            (first - 0x0101010101010101) & ~first & std::uint64_t{0x8080808080808080};
+        if (zeros != 0) {
+            return {text, static_cast<std::size_t>(std::countr_zero(zeros)) / 8};
+        }
+    }
+    return text;
+}
+
 /// The name of an element. Its first characters as a number tell most names apart.
 class element_name {
 public:
@@ -34,15 +49,16 @@ public:
     /// The name that ends with a zero and has eight characters more behind it.
     static element_name in_buffer(const char* text) {
         element_name result;
-        result.text_ = text;
-        std::memcpy(&result.first_, text, sizeof first_);
-        if (std::endian::native == std::endian::big) {
+        result.text_ = text_in_buffer(text);
+        if constexpr (std::endian::native == std::endian::little) {
+            std::memcpy(&result.first_, text, sizeof first_);
+            if (result.text_.size() < sizeof first_) {
+                result.first_ &= (std::uint64_t{1} << (8 * result.text_.size())) - 1;
+            }
+            return result;
+        } else {
             return element_name(result.text_);
         }
-        if (result.text_.size() < sizeof first_) {
-            result.first_ &= (std::uint64_t{1} << (8 * result.text_.size())) - 1;
-        }
-        return result;
     }
 
     constexpr std::string_view text() const { return text_; }
@@ -151,10 +167,16 @@ public:
     /// Takes over the texts of another tree, for elements copied from it.
     void adopt_texts(tree& other);
 
-    /// The element that was opened last among those that are open, by its number from 0.
-    std::size_t last_opened() const { return open_; }
-    std::string_view text_of(std::size_t element) const { return nodes_[element].text; }
-    void change_text(std::size_t element, std::string_view text) { nodes_[element].text = text; }
+    /// Adds an element whose place in another tree is known: how many elements its parent is before
+    /// it. `measure` has to follow the last of them.
+    void add_below(std::size_t up, const element_name& name, std::string_view text) {
+        nodes_.push_back({name, text, 1, static_cast<std::uint32_t>(up)});
+    }
+    void measure();
+    /// The number of elements so far.
+    std::size_t size() const { return nodes_.size(); }
+    /// The text of an element by its number, to change it.
+    std::string_view& text_at(std::size_t number) { return nodes_[number].text; }
 
     /// Makes room for so many elements.
     void expect(std::size_t count) { nodes_.reserve(count); }
@@ -214,6 +236,11 @@ std::vector<placed_text> texts_of(const node& root);
 /// there is one element of the name. Throws std::invalid_argument for a path that is none, names an
 /// element twice, or skips a number.
 tree tree_of(std::string_view root, const std::vector<placed_text>& texts);
+
+/// Takes out the texts of an element of several, `det[2]`, and renumbers those behind it: for the
+/// texts beside an invoice from which an item was taken. Throws std::invalid_argument where the
+/// path does not end with a number.
+void take_out(std::vector<placed_text>& texts, std::string_view path);
 
 /// What stands at one path of two documents; absent where a document has no such text.
 struct difference {

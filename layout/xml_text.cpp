@@ -15,7 +15,7 @@ namespace kivo::erp::v12::layout {
 namespace {
 
 // far deeper than any invoice, far from the end of the stack
-constexpr int deepest_level = 100;
+constexpr std::size_t deepest = 100;
 
 [[noreturn]] void refuse(const std::string& reason) {
     throw std::runtime_error("not an XML document: " + reason);
@@ -94,7 +94,10 @@ bool is_xml_utf8(std::string_view text) {
             continue;
         }
         for (const char* const stop = whole ? at + block : end; at < stop;) {
-            if (!is_xml_character(take_character(at, end))) {
+            const auto byte = static_cast<unsigned char>(*at);
+            if (byte >= 0x20 && byte < 0x80) {
+                ++at;
+            } else if (!is_xml_character(take_character(at, end))) {
                 return false;
             }
         }
@@ -241,45 +244,45 @@ public:
     tree_maker(tree& result, bool prefixed) : result_(&result), prefixed_(prefixed) {}
 
     bool for_each(pugi::xml_node& found) override {
-        const int level = depth(); // that of the root is 0
-        if (level > deepest_level) {
+        const auto level = static_cast<std::size_t>(depth()); // that of the root is 0
+        if (level >= deepest) {
             throw std::runtime_error("elements are nested too deeply for an invoice");
         }
-        for (; opened_ > level; --opened_) {
-            result_->close();
-        }
+        const std::size_t index = result_->size();
+        const std::size_t parent = level == 0 ? index : last_[level - 1];
         const char* const name = found.name();
         if (*name == '\0') {
-            pieces_.push_back({result_->last_opened(), found.value()});
+            pieces_.push_back({parent, found.value()});
             return true;
         }
+        last_[level] = index;
+        const char* const text = found.value(); // not in the buffer where there is none
         const char* const colon = prefixed_ ? std::strchr(name, ':') : nullptr;
-        result_->open(element_name::in_buffer(colon == nullptr ? name : colon + 1), found.value());
-        ++opened_;
-        if (pugi::xml_attribute attribute = found.first_attribute()) {
-            do {
-                add(found, attribute);
-            } while ((attribute = attribute.next_attribute()));
+        result_->add_below(index - parent,
+                           element_name::in_buffer(colon == nullptr ? name : colon + 1),
+                           *text == '\0' ? std::string_view() : text_in_buffer(text));
+        for (pugi::xml_attribute attribute = found.first_attribute(); attribute;
+             attribute = attribute.next_attribute()) {
+            add(found, attribute, result_->size() - index);
         }
         return true;
     }
 
     bool end(pugi::xml_node&) override {
-        for (; opened_ > 0; --opened_) {
-            result_->close();
-        }
         std::stable_sort(pieces_.begin(), pieces_.end(), [](const piece& left, const piece& right) {
             return left.element < right.element;
         });
         for (auto first = pieces_.begin(); first != pieces_.end();) {
-            std::string whole(result_->text_of(first->element));
+            std::string_view& text = result_->text_at(first->element);
+            std::string whole(text);
             auto next = first;
             for (; next != pieces_.end() && next->element == first->element; ++next) {
                 whole += next->text;
             }
-            result_->change_text(first->element, result_->keep(whole));
+            text = result_->keep(whole);
             first = next;
         }
+        result_->measure();
         return true;
     }
 
@@ -290,7 +293,7 @@ private:
         std::string_view text;
     };
 
-    void add(const pugi::xml_node& element, const pugi::xml_attribute& attribute) {
+    void add(const pugi::xml_node& element, const pugi::xml_attribute& attribute, std::size_t up) {
         const std::string_view name = attribute.name();
         if (element.attribute(attribute.name()) != attribute) {
             refuse("an element has two attributes " + std::string(name));
@@ -299,13 +302,13 @@ private:
             char* const kept = result_->place(name.size() + 1);
             *kept = '@';
             std::copy(name.begin(), name.end(), kept + 1);
-            result_->add(std::string_view(kept, name.size() + 1), attribute.value());
+            result_->add_below(up, std::string_view(kept, name.size() + 1), attribute.value());
         }
     }
 
     tree* result_;
-    bool prefixed_; // whether names may have prefixes
-    int opened_ = 0;
+    bool prefixed_;                           // whether names may have prefixes
+    std::array<std::size_t, deepest> last_{}; // the last element of each level
     std::vector<piece> pieces_;
 };
 
@@ -317,9 +320,9 @@ tree parse_xml(std::string_view xml) {
     check_references(xml);
 
     tree result;
-    constexpr std::size_t padding = 8; // behind names
+    constexpr std::size_t padding = 8; // see text_in_buffer
     char* const buffer = result.place(xml.size() + padding);
-    std::copy(xml.begin(), xml.end(), buffer);
+    std::fill_n(std::copy(xml.begin(), xml.end(), buffer), padding, '\0');
     pugi::xml_document parsed;
     // a text of spaces alone is a text; a fragment may have two roots, which are refused below
     const unsigned options = pugi::parse_default | pugi::parse_ws_pcdata_single |
