@@ -25,8 +25,15 @@ STYLE = """\
 text { font: 13px sans-serif; fill: #222; }
 .small { font-size: 11px; }
 .line { stroke: #ccc; }
-@media (prefers-color-scheme: dark) { text { fill: #ddd; } .line { stroke: #555; } }
-</style>"""
+.page { fill: #fff; }
+@media (prefers-color-scheme: dark) {
+    text { fill: #ddd; }
+    .line { stroke: #555; }
+    .page { fill: #1b1c1d; }
+}
+</style>
+<rect class="page" width="100%" height="100%"/>"""
+WIDTH = 450  # read on a phone, too
 
 
 def figures():
@@ -54,9 +61,9 @@ def short(nanoseconds):
     return f"{nanoseconds:.0f} ns" if nanoseconds < 995 else f"{nanoseconds / 1000:.1f} µs"
 
 
-def document(width, height, title, lines):
-    return "\n".join([f'<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 {width} {height}" '
-                      f'width="{width}" height="{height}" role="img" aria-label="{title}">',
+def document(height, title, lines):
+    return "\n".join([f'<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 {WIDTH} {height}" '
+                      f'width="{WIDTH}" height="{height}" role="img" aria-label="{title}">',
                       f"<title>{title}</title>", STYLE, *lines, "</svg>", ""])
 
 
@@ -67,7 +74,7 @@ def text(x, y, words, anchor="start", kind=""):
 def growth(all_figures):
     """Lines over the number of items, both axes logarithmic."""
     lines = []
-    left, right, top, bottom = 70, 520, 20, 300
+    left, right, top, bottom = 56, 330, 16, 270
     sizes = sorted({size for operation in OPERATIONS for size in all_figures[operation, "library"]})
 
     def x(items):
@@ -93,27 +100,27 @@ def growth(all_figures):
                   *(f'<circle cx="{x(items):.0f}" cy="{y(value):.0f}" r="3.5" fill="{colour}"/>'
                     for items, value in points),
                   text(right + 12, label + 4, f"{operation}, {short(points[-1][1])}")]
-    return document(680, 350, "Time per item, by the number of items", lines)
+    return document(320, "Time per item, by the number of items", lines)
 
 
 def peers(all_figures, items=100):
     """Bars for each operation, a bar for each holder, on a logarithmic axis."""
     lines = []
-    left, right, bar, gap = 130, 570, 15, 14
-    least, most = 10, 10000
+    left, right, bar, gap = 66, 430, 15, 14
+    least, most = 10, 4000
 
     def x(nanoseconds):
         return left + (right - left) * math.log10(nanoseconds / least) / math.log10(most / least)
 
     height = 30 + len(OPERATIONS) * (len(HOLDERS) * bar + gap) + 24
-    for mark in (10, 100, 1000, 10000):
+    for mark in (10, 100, 1000):
         lines += [f'<line class="line" x1="{x(mark):.0f}" x2="{x(mark):.0f}" y1="24" y2="{height - 30}"/>',
                   text(x(mark), height - 12, short(mark), "middle", "small")]
-    at = 16
+    at = 4
     for number, (holder, colour) in enumerate(zip(HOLDERS, COLOURS)):
         lines += [f'<rect x="{at}" y="4" width="11" height="11" fill="{colour}"/>',
                   text(at + 16, 14, holder, kind="small")]
-        at += 36 + 7 * len(holder)
+        at += 28 + 6 * len(holder)
     y = 30
     for operation in OPERATIONS:
         lines.append(text(left - 10, y + len(HOLDERS) * bar / 2 + 4, operation, "end"))
@@ -123,7 +130,7 @@ def peers(all_figures, items=100):
                       f'fill="{colour}"/>', text(x(value) + 5, y + bar - 4, short(value), kind="small")]
             y += bar
         y += gap
-    return document(680, height, f"Time per item in an invoice of {items} items", lines)
+    return document(height, f"Time per item in an invoice of {items} items", lines)
 
 
 def main(*arguments):

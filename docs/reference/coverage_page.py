@@ -77,17 +77,18 @@ Some groups tell more than their fields:
 - `imposto` is mandatory in the layout, and written for every item, also when nothing in it has a
   field.
 - `tributacao_pis_cofins` always holds both contributions; a rate group at its defaults stands for
-  the one that is missing, and is not written. A document that has such a group, with an amount of 0
-  and nothing else, is told that there is no room for it.
+  the one that is missing, and is not written. Where a document has one with an amount of 0 and
+  nothing else, it has no room.
 - `encerrante_bomba_combustiveis` also holds `pBio`, which stands beside `encerrante`: with `pBio`
-  alone, `encerrante` is not written. A document in which the numbers of an `encerrante` beside `pBio`
-  are all 0 is told that there is no room for it.
+  alone, `encerrante` is not written. Where a document has one beside `pBio` with nothing but zeros,
+  it has no room.
 - `modBC` of `ICMS51` is written where it is not 0, or where there is a `vBC`: code 0 is also the
   default of a plain field. `modBC` 0 without `vBC` has no room; `vBC` without `modBC` gets the
   code 0, which is told as added.
-- `tributacao_ipi` is written as `IPITrib` or `IPINT`, as its situation code tells: the group of a
-  document whose code is not its own, or the second of both, has no room. `vUnid` has a field, and
-  `qUnid`, which the layout demands beside it, has none and rides along.
+- `tributacao_ipi` is written as `IPITrib` or `IPINT`, as its situation code tells: an `IPITrib` whose
+  code is not its own has no room and comes back as `IPINT`; where a document has both, the second has
+  no room. `vUnid` has a field, and `qUnid`, which the layout demands beside it, has none and rides
+  along.
 - An item holds ICMS or ISSQN, and `med`, `arma` or `comb`: what a document has beside the first of
   them has no room.
 - `grupo_fcp` has a base; in `ICMS00`, where the layout has no `vBCFCP`, it is not written.

@@ -12,7 +12,8 @@ import sys
 from collections import defaultdict
 from pathlib import Path
 
-from facts import last_name, read_elements, read_places, without_field
+from facts import (TITLES, last_name, read_elements, read_places, read_subsystems,
+                   without_field)
 
 PORTUGUESE = "md_docs_guia.html"
 INDEX = re.compile(r"^  \['(\w+?)_\d+',(.*)\],?$", re.M)
@@ -63,6 +64,26 @@ def with_breaks(html):
     return "".join([*result, text(html[end:])])
 
 
+def add_to_menu(site, subsystems):
+    """Guides, subsystems and elements stand in the menu, which is all there is on a phone."""
+    def entry(title, page, children=()):
+        inner = ",children:[" + ",".join(children) + "]" if children else ""
+        return f'{{text:"{title}",url:"{page}.html"{inner}}}'
+
+    own = ",".join([
+        entry("Guide", "md_docs_guide"),
+        entry("Guia (em português)", PORTUGUESE.removesuffix(".html")),
+        entry("Subsystems", "subsystems",
+              [entry(TITLES[name], f"subsystem_{name}") for name in subsystems]),
+        entry("Elements of the layout", "elements"),
+    ])
+    menu = site / "menudata.js"
+    text, count = re.subn(r'(var menudata=\{children:\[\s*\{[^{}]*\},)', rf"\1\n{own},", menu.read_text())
+    if count != 1:
+        sys.exit("site: the menu is not as it was")
+    menu.write_text(text)
+
+
 def finish_pages(site):
     for page in site.glob("*.html"):
         language = "pt-BR" if page.name == PORTUGUESE else "en"
@@ -99,6 +120,7 @@ if __name__ == "__main__":
         sys.exit(__doc__)
     SITE, FACTS = map(Path, sys.argv[1:])
     add_later_words(SITE / "search")
+    add_to_menu(SITE, read_subsystems(FACTS))
     finish_pages(SITE)
     missing = list(dict.fromkeys(faults(SITE, FACTS)))
     if missing:

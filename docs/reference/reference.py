@@ -110,10 +110,10 @@ def element_page(name, paths, places, elements, comments):
     lines = []
     for (owner, getter, setter), own in fields.items():
         if owner:
-            lines += [f"**{reference(owner)}**: {reference(owner, getter)}, {reference(owner, setter)}", "",
+            lines += [f"<b>{reference(owner)}</b>: {reference(owner, getter)}, {reference(owner, setter)}", "",
                       comments[owner, getter]]
         else:
-            lines += ["**No object holds it.** The writer fills it in, from `layout::outside_texts`."]
+            lines += ["<b>No object holds it.</b> The writer fills it in, from `layout::outside_texts`."]
         lines += place_table(own, elements)
     known = {"/".join(place.path.split("/")[:size]) for place in places
              for size in range(1, place.path.count("/") + 2)}
@@ -121,13 +121,13 @@ def element_page(name, paths, places, elements, comments):
     numbers = [path for path in free if path in known and path not in groups]
     riding = [path for path in free if path not in known]
     if groups:
-        lines += ["**No field of its own:** the fields of what stands in it are those of the class around it.",
+        lines += ["<b>No field of its own:</b> the fields of what stands in it are those of the class around it.",
                   *place_table(groups, elements)]
     if numbers:
-        lines += ["**No field of its own:** it is the place of the element in its list.",
+        lines += ["<b>No field of its own:</b> it is the place of the element in its list.",
                   *place_table(numbers, elements)]
     if riding:
-        lines += ["**No class has a field for it.** It rides along: `layout::read_xml` keeps its texts "
+        lines += ["<b>No class has a field for it.</b> It rides along: `layout::read_xml` keeps its texts "
                   "in `invoice_document::kept`, and `layout::write_xml` puts them into their place; see "
                   "\\ref coverage_elements-without-a-field \"Elements without a field\".",
                   *place_table(riding, elements)]
