@@ -105,6 +105,10 @@ public:
             tell_refused(element, expected_text<Value>(element.text, how));
             return false;
         }
+        if (gives_back<Value>(element.text) && !how.omit_default) {
+            tell_held(element);
+            return true;
+        }
         value_chars own;
         if (!put_text(own, value, how)) {
             tell_no_room(element);
@@ -518,6 +522,8 @@ struct action<Class, word::field<Name, Get, Set, How>>
     : named_word<Name, typename accessor<Get, Set>::value_type> {
     using value_type = typename accessor<Get, Set>::value_type;
     static constexpr bool plain = is_plain<value_type>;
+    static_assert(group<content_of<value_type>> || single_value<content_of<value_type>>,
+                  "neither a class with a map nor a single value");
 
     static taken read(reader& in, const node& parent, const node& first, void* object) {
         auto& target = *static_cast<Class*>(object);

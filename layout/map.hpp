@@ -181,8 +181,6 @@ template <characters Name, auto Get, auto Set, form How> struct field : accessor
     static constexpr form how = How;
     using held = content_of<typename accessor<Get, Set>::value_type>;
 
-    static_assert(group<held> || single_value<held>,
-                  "neither a group of the map nor a single value");
     static_assert((How.width == 0 && How.base == 10) || coded_value<held>,
                   "digits are for numbers and codes");
 };
