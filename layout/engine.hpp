@@ -16,6 +16,7 @@
 #include <tuple>
 #include <type_traits>
 #include <unordered_map>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -162,6 +163,7 @@ private:
     void tell_lost(const table_name& name, const node& element, const node* written_parent);
     /// Tells that an element is not where the layout has it, between those that stand beside it.
     void tell_if_moved(const node& parent, const node& element);
+    bool is_moved(const node& parent, const node& element);
     /// The layout's rule of an element; null where it has none.
     const element_rule* rule_of(const node& element) const;
     /// What is known in an element, by any of those that read its parent; null where nothing is.
@@ -180,6 +182,8 @@ private:
     const table* known_;       // in the root
     const element_rule* rule_; // of the root
     std::unordered_map<const node*, std::uint32_t> renumbered_;
+    std::unordered_set<const node*> ordered_; // groups whose order was looked at
+    std::unordered_set<const node*> moved_;   // what is not in its place in them
     outside_texts* outside_;
     std::vector<placed_text>* kept_;
     report* told_;

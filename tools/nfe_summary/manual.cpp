@@ -6,6 +6,7 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <stdexcept>
 #include <string>
@@ -64,7 +65,7 @@ void write_manual() {
 /// What an option does, in few words.
 std::string_view first_words(const option_text& option) {
     const std::string_view whole = option.help;
-    return whole.substr(0, whole.find_first_of(".;,("));
+    return whole.substr(0, std::min(whole.find_first_of(".;"), whole.find(" (")));
 }
 
 void write_bash() {
