@@ -10,7 +10,7 @@ essence() {
         [ ! -f "$file" ] ||
             sed -e '/^#line/d' -e 's/^TEST(.*/TEST/' -e 's,//.*,,' -e 's/ *$//' "$file"
     done
-    sed -n 's/ *#.*//; s/^    \([a-z.]\)/\1/p' "$2"
+    sed -n 's/ *#.*//; s/[A-Z]\{4,\}/NAME/g; s/^    \([a-z.]\)/\1/p' "$2"
     # each names its twin first, in another place
     grep -oE '\]\([^)]*\)' "$2" | sed 's/guia/guide/; s/LEIAME/README/' | sort
 }
