@@ -74,12 +74,27 @@ for compiler in "${compilers[@]}"; do
     export LD_LIBRARY_PATH=$libraries
     quietly ./fill
     cmp <(./read_xml "$sample") <("$folder/read_xml" "$sample")
-    [[ ${compiler##*/} != clang* ]] ||
+    if [[ ${compiler##*/} = clang* ]]; then
         # shellcheck disable=SC2046
         quietly clang-tidy-14 --quiet "--config-file=$source/.clang-tidy" \
             "$source/tests/consumer/fill.cpp" -- -std=c++20 $(pkg-config --cflags kivo-erp-fiscal)
+    fi
     grep -q "<xNome>" <(./read_xml "$sample") || fail "read_xml writes no invoice"
     unset LD_LIBRARY_PATH
+done
+
+# the program speaks, and what is installed beside it is for it
+summary() { LANG=pt_BR.UTF-8 LD_LIBRARY_PATH=$libraries root/usr/bin/nfe_summary "$@"; }
+summary "$sample" | grep -qF 'Emitente        Comércio' || fail "nfe_summary shows no invoice"
+summary --help | sed -n 's/^  --\([a-z-]*\).*/\1/p' > options
+[ -s options ] || fail "nfe_summary has no options"
+for file in man/man1/nfe_summary.1.gz man/pt_BR/man1/nfe_summary.1.gz \
+    bash-completion/completions/nfe_summary zsh/vendor-completions/_nfe_summary \
+    fish/vendor_completions.d/nfe_summary.fish; do
+    while read -r option; do
+        zcat --force "root/usr/share/$file" | tr -d '\134' | grep -qF -- "$option" ||
+            fail "$file does not know --$option"
+    done < options
 done
 
 # GDB repeats the path of a library in the folder of the printers, and here the root is part of it

@@ -186,17 +186,18 @@ std::string identity(const std::string& environment, const std::string& key) {
     return key.empty() ? "" : environment + '/' + key;
 }
 
-using invoices_by_key = std::unordered_multimap<std::string, surveyed*>;
+/// Of each key, the invoice that counts.
+using invoices_by_key = std::unordered_map<std::string, surveyed*>;
 
 /// Lets one of those with the same key count: one with an answer, else the first.
-void tell_repeated(survey& all) {
-    std::unordered_map<std::string, surveyed*> first;
+invoices_by_key tell_repeated(survey& all) {
+    invoices_by_key counting;
     for (surveyed& invoice : all.invoices) {
         const std::string key = identity(invoice.environment, invoice.key);
         if (key.empty() || !invoice.failure.empty()) {
             continue;
         }
-        const auto [known, is_new] = first.emplace(key, &invoice);
+        const auto [known, is_new] = counting.emplace(key, &invoice);
         if (is_new) {
             continue;
         }
@@ -212,36 +213,38 @@ void tell_repeated(survey& all) {
                 say("another invoice has the same key: {}", known->second->file));
         }
     }
+    return counting;
+}
+
+surveyed* found_in(const invoices_by_key& by_key, const std::string& environment,
+                   const std::string& key) {
+    const auto found = by_key.find(identity(environment, key));
+    return found == by_key.end() ? nullptr : found->second;
 }
 
 void apply_answers(survey& all, const invoices_by_key& by_key) {
     for (surveyed_answer& answer : all.answers) {
-        const auto [begin, end] =
-            by_key.equal_range(identity(answer.told.environment, answer.told.key));
-        for (auto found = begin; found != end; ++found) {
-            surveyed& invoice = *found->second;
-            answer.has_invoice = true;
-            if (!invoice.answer) {
-                invoice.answer = answer.told;
-            }
+        surveyed* const invoice = found_in(by_key, answer.told.environment, answer.told.key);
+        answer.has_invoice = invoice != nullptr;
+        if (answer.has_invoice && !invoice->answer) {
+            invoice->answer = answer.told;
         }
     }
 }
 
 void apply_events(survey& all, const invoices_by_key& by_key) {
     for (surveyed_event& event : all.events) {
-        const auto [begin, end] =
-            by_key.equal_range(identity(event.told.environment, event.told.key));
-        for (auto found = begin; found != end; ++found) {
-            surveyed& invoice = *found->second;
-            event.has_invoice = true;
-            const bool could_count =
-                invoice.valid == validity::authorised || invoice.valid == validity::unauthorised;
-            if (event.told.is_registered() && event.told.is_cancellation() && could_count) {
-                invoice.valid = validity::cancelled;
-            }
-            invoice.notes.push_back(event_text(event.told));
+        surveyed* const invoice = found_in(by_key, event.told.environment, event.told.key);
+        event.has_invoice = invoice != nullptr;
+        if (!event.has_invoice) {
+            continue;
         }
+        const bool could_count =
+            invoice->valid == validity::authorised || invoice->valid == validity::unauthorised;
+        if (event.told.is_registered() && event.told.is_cancellation() && could_count) {
+            invoice->valid = validity::cancelled;
+        }
+        invoice->notes.push_back(event_text(event.told));
     }
 }
 
@@ -259,20 +262,12 @@ void add(survey& all, const std::string& path, surveyed_file&& made) {
 
 /// Tells what events, answers and repeated keys make of the invoices.
 void settle(survey& all) {
-    invoices_by_key by_key;
-    if (!all.events.empty() || !all.answers.empty()) {
-        for (surveyed& invoice : all.invoices) {
-            if (!invoice.key.empty()) {
-                by_key.emplace(identity(invoice.environment, invoice.key), &invoice);
-            }
-        }
-    }
-    apply_answers(all, by_key);
+    const invoices_by_key counting = tell_repeated(all);
+    apply_answers(all, counting);
     for (surveyed& invoice : all.invoices) {
         invoice.valid = validity_of(invoice);
     }
-    apply_events(all, by_key);
-    tell_repeated(all);
+    apply_events(all, counting);
 }
 
 } // namespace
