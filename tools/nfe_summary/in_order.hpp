@@ -28,16 +28,20 @@ template <class Make, class Use> void make_in_order(std::size_t count, Make make
     constexpr std::size_t most_ahead = 256;
     std::vector<std::variant<std::monostate, result, std::exception_ptr>> made(most_ahead);
     std::mutex mutex;
-    std::condition_variable changed;
-    std::size_t next = 0; // to make
+    std::condition_variable changed; // for those that make
+    std::condition_variable ready;   // for the one that uses
+    std::size_t waiting = 0;         // to make
+    std::size_t next = 0;            // to make
     std::size_t used = 0;
     bool stopped = false;
 
     const auto work = [&] {
         std::unique_lock lock(mutex);
         for (;;) {
+            ++waiting;
             changed.wait(lock,
                          [&] { return stopped || next == count || next < used + most_ahead; });
+            --waiting;
             if (stopped || next == count) {
                 return;
             }
@@ -51,7 +55,9 @@ template <class Make, class Use> void make_in_order(std::size_t count, Make make
             }
             lock.lock();
             made[index % most_ahead] = std::move(outcome);
-            changed.notify_all();
+            if (index == used) { // the others are not waited for yet
+                ready.notify_one();
+            }
         }
     };
     std::vector<std::jthread> workers;
@@ -76,11 +82,14 @@ template <class Make, class Use> void make_in_order(std::size_t count, Make make
     for (std::size_t index = 0; index < count; ++index) {
         std::unique_lock lock(mutex);
         auto& slot = made[index % most_ahead];
-        changed.wait(lock, [&] { return slot.index() != 0; });
+        ready.wait(lock, [&] { return slot.index() != 0; });
         auto outcome = std::exchange(slot, std::monostate());
         ++used;
+        const bool full = waiting != 0;
         lock.unlock();
-        changed.notify_all();
+        if (full) {
+            changed.notify_all();
+        }
         if (auto* const failure = std::get_if<std::exception_ptr>(&outcome)) {
             std::rethrow_exception(*failure);
         }
