@@ -73,5 +73,10 @@ speaks 'Usage:' LANG=pt_BR.UTF-8 LANGUAGE=en --help
 speaks 'Uso:' LANG=en_US.UTF-8 LANGUAGE=de:pt_BR:en --help
 speaks 'Usage:' LANG=de_DE.UTF-8 --help
 speaks 'não pode ser lido: arquivo ou pasta inexistente' LANG=pt_BR.UTF-8 /missing
+echo '<NFe><infNFe/></NFe>' > "$folder/hollow.xml"
+speaks 'uma nota sem conteúdo' LANG=pt_BR.UTF-8 "$folder/hollow.xml"
+echo '<NFe><infNFe></NFe>' > "$folder/broken.xml"
+speaks 'não é um documento XML: marcas de início e fim não combinam (linha 1, coluna' \
+    LANG=pt_BR.UTF-8 "$folder/broken.xml"
 LANG=pt_BR.UTF-8 "$program" --lang en --help | grep -F "Usage:" > "$folder/said"
 LANG=C "$program" --lang pt_BR --help | grep -F "Uso:" > "$folder/said"

@@ -174,7 +174,7 @@ layout::invoice_document read_invoice(const layout::tree& tree) {
     };
     try {
         if (!has_elements(layout::invoice_in(tree))) {
-            throw std::runtime_error(mark("an invoice without content"));
+            throw std::runtime_error(tr("an invoice without content"));
         }
         return layout::read_document(tree);
     } catch (const std::runtime_error& failure) {
