@@ -179,10 +179,12 @@ void reader::finish(const table& known, const frame& read, const node& parent, c
         if (!stored && stands && entry.plain) {
             written = written_by(*outside_, [&](writer& out) { entry.write(out, object); });
             for (const placed_text& text : texts_of(written.root())) {
-                const node* const there = child_named(parent, std::string_view(text.path));
+                const std::string_view path = text.path;
+                const std::size_t name = known.find(path);
                 // a group is still there when all that was in it was refused
-                if (there == nullptr || there->size == 1) {
-                    tell_added(parent, text.path, text.text);
+                if (name == table::none || known.names[name].inner == nullptr ||
+                    child_named(parent, path) == nullptr) {
+                    tell_added(parent, path, text.text);
                 }
             }
         }

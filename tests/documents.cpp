@@ -6,8 +6,14 @@
 #include <layout/xml_text.hpp>
 
 #include <gtest/gtest.h>
+#include <rapidcheck.h>
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdlib>
+#include <exception>
+#include <iterator>
 #include <set>
 #include <string>
 #include <utility>
@@ -205,6 +211,92 @@ TEST_F(variations, of_large_documents_ride_along_whole) {
         }
     }
     EXPECT_GE(without_field.size(), 70U);
+}
+
+/// All elements in one, itself among them.
+std::vector<element*> elements_in(element& root) {
+    std::vector<element*> result{&root};
+    for (element& inner : root.inner) {
+        const std::vector<element*> below = elements_in(inner);
+        result.insert(result.end(), below.begin(), below.end());
+    }
+    return result;
+}
+
+/// Changes a document in one point, which numbers choose.
+void change(element& infnfe, unsigned kind, unsigned first, unsigned second) {
+    const std::vector<element*> all = elements_in(infnfe);
+    element& changed = *all[first % all.size()];
+    element& other = *all[second % all.size()];
+    std::vector<element>& inner = changed.inner;
+    const auto is_attribute = [](const element& each) { return each.name.starts_with('@'); };
+    switch (kind % 8) {
+    case 0:
+        inner.clear();
+        break;
+    case 1:
+        changed.text = other.text;
+        break;
+    case 2:
+        if (!inner.empty()) {
+            inner.erase(inner.begin() + second % inner.size());
+        }
+        break;
+    case 3:
+        if (!inner.empty() && !is_attribute(inner[second % inner.size()])) {
+            inner.push_back(inner[second % inner.size()]);
+        }
+        break;
+    case 4:
+        if (inner.size() > 1) {
+            std::swap(inner[second % inner.size()], inner.back());
+        }
+        break;
+    case 5:
+        if (&changed != &infnfe && !is_attribute(changed) && !is_attribute(other)) {
+            changed.name = other.name;
+        }
+        break;
+    case 6: {
+        const element added = other; // it may be one of those around
+        if (!is_attribute(changed) && !is_attribute(added)) {
+            inner.insert(inner.begin() + second % (inner.size() + 1), added);
+        }
+        break;
+    }
+    default: {
+        const std::vector<element> content = other.inner;
+        if (!is_attribute(changed)) {
+            std::copy_if(content.begin(), content.end(), std::back_inserter(inner),
+                         [&](const element& each) { return !is_attribute(each); });
+        }
+    }
+    }
+}
+
+// Catches what only several faults together bring about.
+TEST(random_documents, are_told_as_they_are) {
+    // the same documents each time, unless others are asked for
+    setenv("RC_PARAMS", "seed=1 max_success=1000 max_size=20", 0);
+    const std::vector<element> large = large_documents();
+    EXPECT_TRUE(rc::check([&] {
+        element infnfe = large[*rc::gen::inRange<std::size_t>(0, large.size())];
+        const auto changes = *rc::gen::container<std::vector<std::array<unsigned, 3>>>(
+            rc::gen::arbitrary<std::array<unsigned, 3>>());
+        for (const auto& [kind, first, second] : changes) {
+            change(infnfe, kind, first, second);
+        }
+        const std::string xml = document_of(infnfe);
+        RC_PRE(xml.size() < 1'000'000U);
+        std::string told;
+        for (const std::string& fault : faults_of_round_trip(xml)) {
+            told += fault + '\n';
+        }
+        if (!told.empty()) {
+            RC_LOG() << xml << '\n';
+            RC_FAIL(told);
+        }
+    }));
 }
 
 } // namespace kivo::tests
