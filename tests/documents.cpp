@@ -13,6 +13,7 @@
 #include <cstddef>
 #include <cstdlib>
 #include <exception>
+#include <functional>
 #include <iterator>
 #include <set>
 #include <string>
@@ -297,6 +298,176 @@ TEST(random_documents, are_told_as_they_are) {
             RC_FAIL(told);
         }
     }));
+}
+
+/// What was told of an invoice, a line for each.
+std::vector<std::string> lines_told(const invoice_document& document) {
+    std::vector<std::string> result;
+    for (const std::string& path : document.report.without_field) {
+        result.push_back("no field: " + path);
+    }
+    for (const std::string& path : document.report.unknown) {
+        result.push_back("unknown: " + path);
+    }
+    const auto add = [&](const char* kind, const std::vector<report::remark>& remarks) {
+        for (const report::remark& each : remarks) {
+            result.push_back(kind + (": " + each.path) + " [" + each.text + "] " + each.instead);
+        }
+    };
+    add("refused", document.report.refused);
+    add("otherwise", document.report.written_otherwise);
+    add("no room", document.report.without_room);
+    add("added", document.report.added);
+    for (const std::string& path : document.beside) {
+        result.push_back("beside: " + path);
+    }
+    return result;
+}
+
+/// The smallest element at a path, with what it has to have.
+element small_element(std::string_view path) {
+    return small_document{rule_at(path)}.infnfe().at(path);
+}
+
+// Catches a text that the objects cannot hold, or hold besides, and that nobody is told of.
+TEST(documents, tell_what_the_objects_cannot_tell) {
+    const std::string icms = "det/imposto/ICMS/";
+    const std::string ipi = "det/imposto/IPI";
+    const auto without = [](const std::string& path) {
+        return [path](element& infnfe) {
+            const std::size_t slash = path.rfind('/');
+            std::erase_if(infnfe.at(path.substr(0, slash)).inner,
+                          [&](const element& each) { return each.name == path.substr(slash + 1); });
+        };
+    };
+    const auto with_text = [](const std::string& path, const std::string& text) {
+        return [path, text](element& infnfe) { infnfe.at(path).text = text; };
+    };
+    const auto emptied = [](const std::string& path) {
+        return [path](element& infnfe) { infnfe.at(path).inner.clear(); };
+    };
+    const auto as_it_is = [](element&) {};
+    const struct {
+        std::string with; ///< the element that the smallest document has
+        std::function<void(element&)> change;
+        std::vector<std::string> told;
+    } rows[] = {
+        {icms + "ICMS51/modBC",
+         with_text(icms + "ICMS51/modBC", "0"),
+         {"no room: det/imposto/ICMS/ICMS51/modBC [0] "}},
+        {icms + "ICMS51/modBC", with_text(icms + "ICMS51/modBC", "1"), {}},
+        {icms + "ICMS51/vBC", as_it_is, {"added: det/imposto/ICMS/ICMS51/modBC [] 0"}},
+        {icms + "ICMSSN102", as_it_is, {"added: det/imposto/ICMS/ICMSSN102/orig [] 0"}},
+        {icms + "ICMSSN900", as_it_is, {"added: det/imposto/ICMS/ICMSSN900/orig [] 0"}},
+        {"det/prod/comb/encerrante",
+         [](element& infnfe) {
+             element& comb = infnfe.at("det/prod/comb");
+             for (element& each : comb.at("encerrante").inner) {
+                 each.text = "0";
+             }
+             comb.inner.push_back({"pBio", "15", {}});
+         },
+         {"no room: det/prod/comb/encerrante [] "}},
+        {"det", without("det/prod/vUnCom"), {"added: det/prod/vUnCom [] 0"}},
+        {"det",
+         with_text("det/prod/vUnCom", "1,50"),
+         {"refused: det/prod/vUnCom [1,50] a decimal number such as 1234.56, of at most 17 digits, "
+          "15 of them decimal places",
+          "added: det/prod/vUnCom [] 0"}},
+        {"det", without("det/prod/vUnTrib"), {"added: det/prod/vUnTrib [] 0"}},
+        {"det/prod/DI",
+         without("det/prod/DI/adi/nSeqAdic"),
+         {"added: det/prod/DI/adi/nSeqAdic [] 0"}},
+        {ipi, without(ipi + "/cEnq"), {"added: det/imposto/IPI/cEnq [] 000"}},
+        {ipi,
+         with_text(ipi + "/cEnq", "x"),
+         {"refused: det/imposto/IPI/cEnq [x] 3 digits", "added: det/imposto/IPI/cEnq [] 000"}},
+        {"total", without("total/ICMSTot/vFCP"), {"added: total/ICMSTot/vFCP [] 0"}},
+        {icms + "ICMS40",
+         [](element& infnfe) {
+             infnfe.at("det/imposto").inner.push_back(small_element("det/imposto/ISSQN"));
+         },
+         {"no room: det/imposto/ISSQN [] "}},
+        {"det/prod/arma",
+         [](element& infnfe) {
+             infnfe.at("det/prod").inner.push_back(small_element("det/prod/med"));
+         },
+         {"otherwise: det/prod/med [] in the layout's order", "no room: det/prod/med [] "}},
+        {"det/prod/comb",
+         [](element& infnfe) {
+             infnfe.at("det/prod").inner.push_back(small_element("det/prod/med"));
+         },
+         {"otherwise: det/prod/med [] in the layout's order", "no room: det/prod/med [] "}},
+        {ipi + "/IPITrib",
+         [&](element& infnfe) {
+             infnfe.at(ipi).inner.push_back(small_element("det/imposto/IPI/IPINT"));
+         },
+         {"no room: det/imposto/IPI/IPINT [] "}},
+        {ipi + "/IPITrib",
+         with_text(ipi + "/IPITrib/CST", "53"),
+         {"no room: det/imposto/IPI/IPITrib [] ", "added: det/imposto/IPI/IPINT/CST [] 53"}},
+        {"det/prod/med",
+         [](element& infnfe) {
+             infnfe.at("det/prod/med").inner = {{"cProdANVISA", "1234567890123", {}},
+                                                {"xMotivoIsencao", "RDC", {}},
+                                                {"vPMC", "1.00", {}}};
+         },
+         {"no room: det/prod/med/xMotivoIsencao [RDC] "}},
+        {"det", emptied("det/imposto"), {}},
+        {"det", without("det/imposto"), {"added: det/imposto [] "}},
+        {"cobr", emptied("cobr"), {}},
+        {"cobr/fat", emptied("cobr/fat"), {"no room: cobr/fat [] "}},
+        {"entrega", with_text("entrega/CNPJ", ""), {}},
+        {"infRespTec", with_text("infRespTec/CNPJ", ""), {}},
+        {"det/prod/detExport/exportInd", with_text("det/prod/detExport/exportInd/nRE", ""), {}},
+        {"det/prod/detExport/exportInd",
+         with_text("det/prod/detExport/exportInd/nRE", "123"),
+         {"otherwise: det/prod/detExport/exportInd/nRE [123] 000000000123"}},
+        {"det/prod/detExport/exportInd",
+         with_text("det/prod/detExport/exportInd/nRE", "1234567890123"),
+         {"refused: det/prod/detExport/exportInd/nRE [1234567890123] at most 12 digits"}},
+        {"emit",
+         with_text("emit/CNPJ", "11111111111111"),
+         {"refused: emit/CNPJ [11111111111111] a CNPJ, 14 characters; those of one repeated digit "
+          "are not issued"}},
+        {"dest/CPF",
+         with_text("dest/CPF", "11111111111"),
+         {"refused: dest/CPF [11111111111] a CPF, 11 digits; those of one repeated digit are not "
+          "issued"}},
+        {"emit",
+         with_text("emit/enderEmit/cMun", "1058x"),
+         {"refused: emit/enderEmit/cMun [1058x] 7 digits",
+          "added: emit/enderEmit/cMun [] 0000000"}},
+        {"emit/enderEmit/cPais",
+         with_text("emit/enderEmit/cPais", "1058x"),
+         {"refused: emit/enderEmit/cPais [1058x] a whole number up to 65535"}},
+        {"emit/enderEmit/cPais",
+         with_text("emit/enderEmit/cPais", "01058"),
+         {"otherwise: emit/enderEmit/cPais [01058] 1058"}},
+        {"ide/NFref/refNFe",
+         [](element& infnfe) {
+             element& ide = infnfe.at("ide");
+             ide.inner.push_back(ide.at("NFref"));
+             ide.at("NFref").inner = {small_element("ide/NFref/refECF")};
+         },
+         {"otherwise: ide/NFref[2] [] ide/NFref[1]", "otherwise: ide/NFref[1] [] ide/NFref[2]"}},
+        {"ide/NFref/refCTe",
+         [](element& infnfe) {
+             element& ide = infnfe.at("ide");
+             ide.inner.push_back(ide.at("NFref"));
+             ide.inner.back().inner = {small_element("ide/NFref/refNFe")};
+         },
+         {"no field: ide/NFref[1]", "otherwise: ide/NFref[2] [] ide/NFref[1]",
+          "otherwise: ide/NFref[1] [] ide/NFref[2]"}},
+        {"det", with_text("det/@nItem", "7"), {"otherwise: det/@nItem [7] 1"}},
+    };
+    for (const auto& row : rows) {
+        element infnfe = small_document{rule_at(row.with)}.infnfe();
+        row.change(infnfe);
+        const std::string xml = document_of(infnfe);
+        EXPECT_EQ(lines_told(read_xml(xml)), row.told) << xml;
+        EXPECT_EQ(faults_of_round_trip(xml), std::vector<std::string>());
+    }
 }
 
 } // namespace kivo::tests

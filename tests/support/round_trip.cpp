@@ -360,7 +360,8 @@ std::vector<std::string> faults_of_round_trip(std::string_view xml) {
     if (write_xml(again) != written_xml) {
         result.emplace_back("what was written is written otherwise the next time");
     }
-    if (texts(again.invoice) != texts(document.invoice)) {
+    // what had no room may still be in the object, as an IPITrib is beside the code of an IPINT
+    if (document.report.without_room.empty() && texts(again.invoice) != texts(document.invoice)) {
         result.emplace_back("what was written is read as another invoice");
     }
     const auto sorted = [](std::vector<placed_text> kept) {
