@@ -199,14 +199,26 @@ void reader::finish(const table& known, const frame& read, const node& parent, c
                     }
                 }
             } else if (element != nullptr && !stands) {
-                const std::string group = path_(*element) + '/';
-                std::erase_if(told_->added, [&](const report::remark& added) {
-                    return added.path.starts_with(group);
-                });
+                take_back(*element);
                 tell_no_room(*element);
             }
         }
     }
+}
+
+void reader::take_back(const node& element) {
+    const auto is_in = [](const std::string& group) {
+        return [group = group + '/'](const auto& told) {
+            if constexpr (requires { told.path; }) {
+                return told.path.starts_with(group);
+            } else {
+                return told.starts_with(group);
+            }
+        };
+    };
+    std::erase_if(told_->added, is_in(path_(element)));
+    std::erase_if(told_->without_field, is_in(path_(element)));
+    std::erase_if(*kept_, is_in(written_path(element)));
 }
 
 void reader::tell_lost(const table_name& name, const node& element, const node* written_parent) {
