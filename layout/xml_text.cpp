@@ -355,8 +355,8 @@ namespace {
 /// Which characters stand otherwise in XML.
 constexpr std::array<bool, 256> escaped_characters = [] {
     std::array<bool, 256> result{};
-    for (const unsigned char character : {'&', '<', '>', '\r'}) {
-        result[character] = true;
+    for (const char character : {'&', '<', '>', '\r'}) {
+        result[static_cast<unsigned char>(character)] = true;
     }
     return result;
 }();
