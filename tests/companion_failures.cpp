@@ -94,7 +94,7 @@ TEST(companion_failures, checking_lets_them_through_or_finds_the_same) {
         if (!failed) {
             EXPECT_EQ(found, expected) << allowed;
         }
-        found = {};
+        std::vector<fault>().swap(found);
         EXPECT_EQ(live_blocks(), start) << allowed;
         failures += failed ? 1 : 0;
     }

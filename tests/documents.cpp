@@ -403,6 +403,9 @@ TEST(documents, tell_what_the_objects_cannot_tell) {
              infnfe.at(ipi).inner.push_back(small_element("det/imposto/IPI/IPINT"));
          },
          {"no room: det/imposto/IPI/IPINT [] "}},
+        {ipi + "/IPITrib/qUnid",
+         with_text(ipi + "/IPITrib/CST", "53"),
+         {"no room: det/imposto/IPI/IPITrib [] ", "added: det/imposto/IPI/IPINT/CST [] 53"}},
         {ipi + "/IPITrib",
          with_text(ipi + "/IPITrib/CST", "53"),
          {"no room: det/imposto/IPI/IPITrib [] ", "added: det/imposto/IPI/IPINT/CST [] 53"}},
@@ -430,10 +433,9 @@ TEST(documents, tell_what_the_objects_cannot_tell) {
          with_text("emit/CNPJ", "11111111111111"),
          {"refused: emit/CNPJ [11111111111111] a CNPJ, 14 characters; those of one repeated digit "
           "are not issued"}},
-        {"dest/CPF",
-         with_text("dest/CPF", "11111111111"),
-         {"refused: dest/CPF [11111111111] a CPF, 11 digits; those of one repeated digit are not "
-          "issued"}},
+        {"emit",
+         with_text("emit/CNPJ", "11222333000182"),
+         {"refused: emit/CNPJ [11222333000182] a CNPJ, 14 characters with their check digits"}},
         {"emit",
          with_text("emit/enderEmit/cMun", "1058x"),
          {"refused: emit/enderEmit/cMun [1058x] 7 digits",
