@@ -98,6 +98,14 @@ TEST_F(variations, of_how_often_an_element_stands) {
             try_document(small_document{&rule, times}.infnfe(),
                          rule.path() + ", " + std::to_string(times) + " times");
         }
+        if (rule.is_group()) {
+            element infnfe = small_document{&rule}.infnfe();
+            element& parent = infnfe.at(rule.parent()->path());
+            const auto own =
+                parent.inner.begin() + (parent.find(rule.name()) - parent.inner.data());
+            parent.inner.insert(own, {own->name, "", {}});
+            try_document(infnfe, rule.path() + " behind an empty one");
+        }
     });
 }
 
@@ -141,6 +149,15 @@ TEST_F(variations, of_large_documents_with_a_group_that_is_empty_or_almost) {
         for (const element& inner : content) {
             changed.inner = {inner};
             try_document(infnfe, rule.path() + " with nothing but " + inner.name);
+            if (rule.most() == 1 && rule.parent()->most() == 1) {
+                element twice = infnfe;
+                element& parent = twice.at(rule.parent()->path());
+                const auto own =
+                    parent.inner.begin() + (parent.find(rule.name()) - parent.inner.data());
+                parent.inner.insert(own + 1, {own->name, "", content});
+                try_document(twice,
+                             rule.path() + " with nothing but " + inner.name + ", and once more");
+            }
         }
     });
 }
@@ -433,6 +450,12 @@ TEST(documents, tell_what_the_objects_cannot_tell) {
          with_text("emit/CNPJ", "11111111111111"),
          {"refused: emit/CNPJ [11111111111111] a CNPJ, 14 characters; those of one repeated digit "
           "are not issued"}},
+        {"dest/IM",
+         [](element& infnfe) {
+             infnfe.at("dest").inner = {{"CNPJ", "1", {}}, {"IM", "7", {}}};
+         },
+         {"no field: dest/IM",
+          "refused: dest/CNPJ [1] a CNPJ, 14 characters with their check digits"}},
         {"emit",
          with_text("emit/CNPJ", "11222333000182"),
          {"refused: emit/CNPJ [11222333000182] a CNPJ, 14 characters with their check digits"}},
