@@ -63,6 +63,8 @@ template <> struct chars_converter<erp::v12::cnpj> {
 template <> struct value_converter<erp::v12::cnpj> {
     using cnpj = erp::v12::cnpj;
 
+    static constexpr bool gives_back(std::string_view) noexcept { return true; }
+
     static conversion_result make_value(cnpj& value, const char* text,
                                         std::size_t length) noexcept {
         if (length != cnpj::length) {

@@ -1,14 +1,21 @@
 #pragma once
 
+#if __cplusplus < 202002L
+// a file that is not there ends the compilation, where #error would let pages of others follow
+#include "kivo-erp-fiscal needs C++20: compile with -std=c++20"
+#endif
+
+#include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <limits>
 #include <string_view>
 
 namespace kivo::core::v7 {
 
 /// How a conversion between a value and its text ended.
-enum conversion_result : int {
+enum [[nodiscard]] conversion_result : std::int32_t{
     conversion_success = 0,          ///< the whole value was converted
     conversion_buffer_too_small = 1, ///< nothing was written; the length now tells the size needed
     conversion_invalid = 3,          ///< nothing was written
@@ -21,10 +28,17 @@ template <class T> struct chars_converter;
 
 /// Reads a value from text: `make_value(T& value, const char* text, std::size_t length)`, static.
 /// The whole text has to be one value; the value is written only on success.
+///
+/// `gives_back(std::string_view text)`, static and not demanded, spares readers a conversion back:
+/// where it is true, `make_chars` makes the same text of what `make_value` reads.
 template <class T> struct value_converter;
 
-/// What the converters of this folder share.
+/// What the values and converters of this folder share.
 namespace detail {
+
+/// Integers of types whose every number fits into 64 bits with a sign.
+template <class... Numbers>
+concept integers = ((std::integral<Numbers> && std::numeric_limits<Numbers>::digits <= 63) && ...);
 
 inline conversion_result write_chars(std::string_view chars, char* buffer,
                                      std::size_t& length) noexcept {

@@ -54,6 +54,8 @@ template <> struct chars_converter<erp::v12::cpf> {
 template <> struct value_converter<erp::v12::cpf> {
     using cpf = erp::v12::cpf;
 
+    static constexpr bool gives_back(std::string_view) noexcept { return true; }
+
     static conversion_result make_value(cpf& value, const char* text, std::size_t length) noexcept {
         const std::string_view chars(text, length);
         cpf found;

@@ -11,14 +11,20 @@ public:
     /// No date: year, month and day are 0, and it has no text.
     constexpr date() noexcept = default;
 
-    /// Absent when the calendar has no such day.
-    static constexpr optional<date> make(unsigned year, unsigned month, unsigned day) noexcept {
+    /// Absent when the calendar has no such day. To the setter of an optional field that is no
+    /// value: pass it `date::make(year, month, day).value()`, which throws instead.
+    [[nodiscard]] static constexpr optional<date> make(std::int64_t year, std::int64_t month,
+                                                       std::int64_t day) noexcept {
         if (year < 1 || year > 9999 || month < 1 || month > 12 || day < 1 ||
             day > days_of(year, month)) {
             return {};
         }
-        return date(year << 9 | month << 5 | day);
+        return date(static_cast<std::uint64_t>(year << 9 | month << 5 | day));
     }
+
+    /// Only integers make a date, of a type that fits.
+    template <class... Numbers>
+    static optional<date> make(Numbers...) requires(!detail::integers<Numbers...>) = delete;
 
     /// The parts of the date; 0 in no date.
     constexpr unsigned year() const noexcept { return static_cast<unsigned>(word_ >> 9); }
@@ -30,7 +36,7 @@ public:
 private:
     constexpr explicit date(std::uint64_t word) noexcept : word_(word) {}
 
-    static constexpr unsigned days_of(unsigned year, unsigned month) noexcept {
+    static constexpr std::int64_t days_of(std::int64_t year, std::int64_t month) noexcept {
         if (month == 2) {
             return year % 4 == 0 && (year % 100 != 0 || year % 400 == 0) ? 29 : 28;
         }
@@ -56,6 +62,8 @@ template <> struct chars_converter<date> {
 
 /// `AAAA-MM-DD`, a day of the calendar.
 template <> struct value_converter<date> {
+    static constexpr bool gives_back(std::string_view) noexcept { return true; }
+
     static conversion_result make_value(date& value, const char* text,
                                         std::size_t length) noexcept {
         const std::string_view chars(text, length);

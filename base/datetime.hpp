@@ -24,24 +24,33 @@ public:
     };
 
     /// Absent when there is no such day, time of day (00:00:00 to 23:59:59) or offset (up to
-    /// 14:00).
-    static constexpr optional<datetime> make(date day, unsigned hour, unsigned minute,
-                                             unsigned second, utc_offset offset) noexcept {
-        if (day == date() || hour > 23 || minute > 59 || second > 59 || offset.minutes > 59 ||
-            offset.hours * 60 + offset.minutes > 14 * 60) {
+    /// 14:00). To the setter of an optional field that is no value: pass it what `.value()` gives,
+    /// which throws instead.
+    [[nodiscard]] static constexpr optional<datetime> make(date day, std::int64_t hour,
+                                                           std::int64_t minute, std::int64_t second,
+                                                           utc_offset offset) noexcept {
+        if (day == date() || hour < 0 || hour > 23 || minute < 0 || minute > 59 || second < 0 ||
+            second > 59 || offset.minutes > 59 || offset.hours > 14 ||
+            (offset.hours == 14 && offset.minutes > 0)) {
             return {};
         }
         std::uint64_t word = day.year();
         word = word << 4 | day.month();
         word = word << 5 | day.day();
-        word = word << 5 | hour;
-        word = word << 6 | minute;
-        word = word << 6 | second;
+        word = word << 5 | static_cast<std::uint64_t>(hour);
+        word = word << 6 | static_cast<std::uint64_t>(minute);
+        word = word << 6 | static_cast<std::uint64_t>(second);
         word = word << 1 | static_cast<unsigned>(offset.west);
         word = word << 4 | offset.hours;
         word = word << 6 | offset.minutes;
         return datetime(word);
     }
+
+    /// Only integers make a time, of a type that fits.
+    template <class Hour, class Minute, class Second>
+    static optional<datetime>
+        make(date, Hour, Minute, Second,
+             utc_offset) requires(!detail::integers<Hour, Minute, Second>) = delete;
 
     /// The local day; no date when there is no time.
     constexpr date day() const noexcept {
@@ -77,7 +86,7 @@ template <> struct chars_converter<datetime> {
         }
         char chars[] = "AAAA-MM-DDThh:mm:ss+hh:mm";
         std::size_t day_length = 10;
-        chars_converter<date>::make_chars(chars, day_length, value.day());
+        static_cast<void>(chars_converter<date>::make_chars(chars, day_length, value.day()));
         detail::write_digits(chars + 11, 2, value.hour());
         detail::write_digits(chars + 14, 2, value.minute());
         detail::write_digits(chars + 17, 2, value.second());
@@ -90,6 +99,8 @@ template <> struct chars_converter<datetime> {
 
 /// `AAAA-MM-DDThh:mm:ss-03:00`: whole seconds, and an offset of hours and minutes.
 template <> struct value_converter<datetime> {
+    static constexpr bool gives_back(std::string_view) noexcept { return true; }
+
     static conversion_result make_value(datetime& value, const char* text,
                                         std::size_t length) noexcept {
         const std::string_view chars(text, length);

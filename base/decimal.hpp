@@ -19,13 +19,21 @@ public:
     constexpr decimal() noexcept = default;
 
     /// The coefficient divided by ten to the power of the scale: `make(1050, 2)` is 10.50.
-    /// Absent when either is out of range.
-    static constexpr optional<decimal> make(std::int64_t coefficient, unsigned scale) noexcept {
-        if (coefficient < -max_coefficient || coefficient > max_coefficient || scale > max_scale) {
+    /// Absent when either is out of range. To the setter of an optional field that is no value:
+    /// `set_valor_frete(decimal::make(cents, 2))` removes the freight where the number is refused,
+    /// and with `decimal::make(cents, 2).value()` it throws std::bad_optional_access instead.
+    [[nodiscard]] static constexpr optional<decimal> make(std::int64_t coefficient,
+                                                          std::int64_t scale) noexcept {
+        if (coefficient < -max_coefficient || coefficient > max_coefficient || scale < 0 ||
+            scale > max_scale) {
             return {};
         }
-        return decimal(coefficient * 16 + static_cast<std::int64_t>(scale));
+        return decimal(coefficient * 16 + scale);
     }
+
+    /// Only integers make a decimal, of a type that fits: 42.90 is `make(4290, 2)`.
+    template <class... Numbers>
+    static optional<decimal> make(Numbers...) requires(!detail::integers<Numbers...>) = delete;
 
     /// What `make` was given.
     constexpr std::int64_t coefficient() const noexcept { return word_ >> 4; }
@@ -78,6 +86,12 @@ template <> struct chars_converter<decimal> {
 /// Digits with an optional minus sign before them and an optional point between them. What needs
 /// more than 17 digits, leading zeros aside, or more than 15 decimal places is invalid.
 template <> struct value_converter<decimal> {
+    /// Zeros in front and the sign of zero are not held.
+    static constexpr bool gives_back(std::string_view text) noexcept {
+        return !text.empty() &&
+               (text[0] > '0' || (text[0] == '0' && (text.size() == 1 || text[1] == '.')));
+    }
+
     static conversion_result make_value(decimal& value, const char* text,
                                         std::size_t length) noexcept {
         std::string_view chars(text, length);
@@ -104,7 +118,8 @@ template <> struct value_converter<decimal> {
         if (scale > decimal::max_scale) {
             return conversion_invalid;
         }
-        value = *decimal::make(negative ? -coefficient : coefficient, static_cast<unsigned>(scale));
+        value =
+            *decimal::make(negative ? -coefficient : coefficient, static_cast<std::int64_t>(scale));
         return conversion_success;
     }
 };

@@ -16,7 +16,8 @@ class informacoes_cide_combustiveis;
 class informacoes_combustivel_glp;
 
 /// Fuel data of an item (comb).
-/// Eager: failures and moved-from objects follow eager_handle.
+/// Eager: failures and moved-from objects follow eager_handle; a copy of its origins that fails
+/// ends the process, in an accessor or a copy of the whole too.
 class KIVO_ERP_FISCAL_EXPORT combustiveis {
 public:
     combustiveis();

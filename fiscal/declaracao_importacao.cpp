@@ -1,6 +1,7 @@
 #include <fiscal/declaracao_importacao.hpp>
 
 #include <fiscal/adicao.hpp>
+#include <fiscal/choice.hpp>
 
 namespace kivo::erp::v12::fiscal {
 
@@ -78,7 +79,7 @@ optional<variant<cnpj, cpf>> declaracao_importacao::get_documento_importador() c
     return record_->documento_importador;
 }
 void declaracao_importacao::set_documento_importador(const optional<variant<cnpj, cpf>>& value) {
-    record_->documento_importador = value;
+    replace_choice(record_->documento_importador, value);
 }
 
 optional<std::string> declaracao_importacao::get_uf_importador() const {

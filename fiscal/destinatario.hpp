@@ -51,7 +51,7 @@ public:
     optional<endereco> get_endereco() const;
     void set_endereco(const optional<endereco>& value);
 
-    /// Telephone, 6 to 14 digits with the area or country code, as text (fone).
+    /// Telephone, 6 to 14 digits with the area or country code, as text (enderDest/fone).
     optional<std::string> get_telefone() const;
     void set_telefone(const optional<std::string>& value);
 
@@ -68,7 +68,7 @@ public:
     optional<std::string> get_indicador_estrangeiro() const;
     void set_indicador_estrangeiro(const optional<std::string>& value);
 
-    /// Registration in the free-trade zone SUFRAMA, 8 or 9 digits (ISUF).
+    /// Registration with the authority SUFRAMA, 8 or 9 digits (ISUF).
     optional<std::string> get_inscricao_suframa() const;
     void set_inscricao_suframa(const optional<std::string>& value);
 

@@ -47,7 +47,7 @@ public:
     endereco get_endereco() const;
     void set_endereco(const endereco& value);
 
-    /// Telephone, 6 to 14 digits with the area code, as text (fone).
+    /// Telephone, 6 to 14 digits with the area code, as text (enderEmit/fone).
     optional<std::string> get_telefone() const;
     void set_telefone(const optional<std::string>& value);
 

@@ -32,8 +32,8 @@ public:
     void set_percentual_credito_presumido(const decimal& value);
 
     /// Amount of the credit, in R$: available at once (vCredPres), or under a condition precedent
-    /// (vCredPresCondSus). A setter that fails while it changes one for the other may leave the
-    /// field valueless.
+    /// (vCredPresCondSus). One goes before the other is copied: a setter that fails in between
+    /// leaves the field valueless.
     variant<valor_cred_pres, valor_cred_pres_sus> get_valor_credito_presumido() const;
     void set_valor_credito_presumido(const variant<valor_cred_pres, valor_cred_pres_sus>& value);
 

@@ -24,7 +24,7 @@ public:
     optional<std::string> get_numero_ato_concessorio_drawback() const;
     void set_numero_ato_concessorio_drawback(const optional<std::string>& value);
 
-    /// Registration of the indirect export, 12 digits as a number (exportInd/nRE).
+    /// Registration of the indirect export, up to 12 digits as a number (exportInd/nRE).
     optional<std::uint64_t> get_numero_registro_exportacao() const;
     void set_numero_registro_exportacao(const optional<std::uint64_t>& value);
 

@@ -1,5 +1,7 @@
 #include <fiscal/grupo_ibs_cred_pres.hpp>
 
+#include <fiscal/choice.hpp>
+
 namespace kivo::erp::v12::fiscal {
 
 struct grupo_ibs_cred_pres::record {
@@ -36,7 +38,7 @@ grupo_ibs_cred_pres::get_valor_credito_presumido() const {
 }
 void grupo_ibs_cred_pres::set_valor_credito_presumido(
     const variant<valor_cred_pres, valor_cred_pres_sus>& value) {
-    record_.set(&record::valor_credito_presumido, value);
+    replace_choice(record_.filled().valor_credito_presumido, value);
 }
 
 } // namespace kivo::erp::v12::fiscal

@@ -19,15 +19,16 @@ public:
         uso_na_agropecuaria = 3,                 ///< farmer, use in farming
         frotista_ou_locadora = 4,                ///< fleet owner or rental company
         diplomatico_ou_consular = 5,             ///< diplomatic or consular mission
-        utilitarios_e_motocicletas_amazonia = 6, ///< utility vehicles and motorcycles of the Amazon
-        suframa = 7,                             ///< SUFRAMA, the Manaus free trade zone
-        venda_a_orgao_publico = 8,               ///< sale to a public body
-        outros = 9,                              ///< another reason
-        deficiente_condutor = 10,                ///< disabled person who drives the vehicle
-        deficiente_nao_condutor = 11,            ///< disabled person who does not drive the vehicle
-        fomento_agropecuario = 12,               ///< farming development body
-        olimpiadas_rio_2016 = 16,                ///< Olympic Games Rio 2016
-        solicitado_pelo_fisco = 90,              ///< requested by the tax authority
+        utilitarios_e_motocicletas_amazonia = 6, ///< utility vehicles and motorcycles of the
+                                                 ///< Western Amazon and the free trade areas
+        suframa = 7,               ///< benefit of the incentive areas, under the authority SUFRAMA
+        venda_a_orgao_publico = 8, ///< sale to a public body
+        outros = 9,                ///< another reason
+        deficiente_condutor = 10,  ///< disabled person who drives the vehicle
+        deficiente_nao_condutor = 11, ///< disabled person who does not drive the vehicle
+        fomento_agropecuario = 12,    ///< farming development body
+        olimpiadas_rio_2016 = 16,     ///< Olympic Games Rio 2016
+        solicitado_pelo_fisco = 90,   ///< requested by the tax authority
     };
 
     /// Whether the relieved amount is deducted from the item and from the total (indDeduzDeson).

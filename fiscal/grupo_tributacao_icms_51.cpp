@@ -51,15 +51,6 @@ void grupo_tributacao_icms_51::set_percentual_reducao_bc_icms(const optional<dec
     record_->percentual_reducao_bc_icms = value;
 }
 
-optional<std::string>
-grupo_tributacao_icms_51::get_codigo_beneficio_fiscal_reducao_bc_icms() const {
-    return record_->codigo_beneficio_fiscal_reducao_bc_icms;
-}
-void grupo_tributacao_icms_51::set_codigo_beneficio_fiscal_reducao_bc_icms(
-    const optional<std::string>& value) {
-    record_->codigo_beneficio_fiscal_reducao_bc_icms = value;
-}
-
 optional<decimal> grupo_tributacao_icms_51::get_valor_bc_icms() const {
     return record_->valor_bc_icms;
 }
@@ -102,5 +93,14 @@ void grupo_tributacao_icms_51::set_valor_icms(const optional<decimal>& value) {
 
 optional<grupo_fcp> grupo_tributacao_icms_51::get_fcp() const { return record_->fcp; }
 void grupo_tributacao_icms_51::set_fcp(const optional<grupo_fcp>& value) { record_->fcp = value; }
+
+optional<std::string>
+grupo_tributacao_icms_51::get_codigo_beneficio_fiscal_reducao_bc_icms() const {
+    return record_->codigo_beneficio_fiscal_reducao_bc_icms;
+}
+void grupo_tributacao_icms_51::set_codigo_beneficio_fiscal_reducao_bc_icms(
+    const optional<std::string>& value) {
+    record_->codigo_beneficio_fiscal_reducao_bc_icms = value;
+}
 
 } // namespace kivo::erp::v12::fiscal

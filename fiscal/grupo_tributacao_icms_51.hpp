@@ -40,10 +40,6 @@ public:
     optional<decimal> get_percentual_reducao_bc_icms() const;
     void set_percentual_reducao_bc_icms(const optional<decimal>& value);
 
-    /// Tax benefit code of the reduction of the tax base, 8 or 10 characters (cBenefRBC).
-    optional<std::string> get_codigo_beneficio_fiscal_reducao_bc_icms() const;
-    void set_codigo_beneficio_fiscal_reducao_bc_icms(const optional<std::string>& value);
-
     /// Tax base, in R$ (vBC).
     optional<decimal> get_valor_bc_icms() const;
     void set_valor_bc_icms(const optional<decimal>& value);
@@ -71,6 +67,10 @@ public:
     /// Poverty fund (FCP) share (vBCFCP, pFCP, vFCP).
     optional<grupo_fcp> get_fcp() const;
     void set_fcp(const optional<grupo_fcp>& value);
+
+    /// Tax benefit code of the reduction of the tax base, 8 or 10 characters (cBenefRBC).
+    optional<std::string> get_codigo_beneficio_fiscal_reducao_bc_icms() const;
+    void set_codigo_beneficio_fiscal_reducao_bc_icms(const optional<std::string>& value);
 
 private:
     struct record;

@@ -64,6 +64,9 @@ void grupo_tributacao_icms_70::set_valor_bc_icms(const optional<decimal>& value)
     record_->valor_bc_icms = value;
 }
 
+optional<grupo_fcp> grupo_tributacao_icms_70::get_fcp() const { return record_->fcp; }
+void grupo_tributacao_icms_70::set_fcp(const optional<grupo_fcp>& value) { record_->fcp = value; }
+
 optional<decimal> grupo_tributacao_icms_70::get_aliquota_icms() const {
     return record_->aliquota_icms;
 }
@@ -75,9 +78,6 @@ optional<decimal> grupo_tributacao_icms_70::get_valor_icms() const { return reco
 void grupo_tributacao_icms_70::set_valor_icms(const optional<decimal>& value) {
     record_->valor_icms = value;
 }
-
-optional<grupo_fcp> grupo_tributacao_icms_70::get_fcp() const { return record_->fcp; }
-void grupo_tributacao_icms_70::set_fcp(const optional<grupo_fcp>& value) { record_->fcp = value; }
 
 modalidade_bc_icms_st grupo_tributacao_icms_70::get_modalidade_bc_icms_st() const {
     return record_->modalidade_bc_icms_st;

@@ -46,6 +46,10 @@ public:
     optional<decimal> get_valor_bc_icms() const;
     void set_valor_bc_icms(const optional<decimal>& value);
 
+    /// Poverty fund (FCP) share (vBCFCP, pFCP, vFCP).
+    optional<grupo_fcp> get_fcp() const;
+    void set_fcp(const optional<grupo_fcp>& value);
+
     /// ICMS rate, in percent (pICMS).
     optional<decimal> get_aliquota_icms() const;
     void set_aliquota_icms(const optional<decimal>& value);
@@ -53,10 +57,6 @@ public:
     /// ICMS amount, in R$ (vICMS).
     optional<decimal> get_valor_icms() const;
     void set_valor_icms(const optional<decimal>& value);
-
-    /// Poverty fund (FCP) share (vBCFCP, pFCP, vFCP).
-    optional<grupo_fcp> get_fcp() const;
-    void set_fcp(const optional<grupo_fcp>& value);
 
     /// How the tax base of the substitution is determined (modBCST).
     modalidade_bc_icms_st get_modalidade_bc_icms_st() const;

@@ -1,29 +1,27 @@
 #pragma once
 
 #include <memory>
-#include <type_traits>
 #include <utility>
 
 /// Ownership, for every class of the library.
 ///
-/// An object is one pointer to a record that it owns alone; the record holds the fields, in an
-/// order of its own, and each class hides its record in its source file. Two templates know how
-/// records are made, copied, moved and released; the fields themselves are walked by the record's
-/// implicit members, in record order, and released in reverse.
+/// An object is one pointer to a record that it owns alone and that its class hides in its source
+/// file. Two templates know how records are made, copied, moved and released; the fields are walked
+/// by the record's implicit members, in record order, and released in reverse.
 ///
 /// For every class: getters copy, setters replace the stored value by assignment, and no two
 /// objects share anything. The library throws nothing of its own. What fails is an allocation or
 /// an operation of a base type; that exception reaches the caller, and nothing is left behind.
-/// Where a function is `noexcept` although it copies, such a failure ends the process.
+/// Where a `noexcept` function copies, also within a larger object, a failure ends the process.
 namespace kivo::erp::v12::fiscal {
 
 /// A record from construction to destruction.
 ///
 /// - Construction allocates, copying and moving included: a moved-from object keeps its record and
-///   stays usable. Its texts and lists are empty, its numbers and codes unchanged, and an optional
-///   that was present is still present, around a moved-from value.
-/// - Assignment walks the fields of the record that is there. When one fails, the fields before it
-///   are new and the rest are old.
+///   stays usable. Its texts, lists and lazy groups are empty, its other numbers and codes
+///   unchanged, and an optional that was present is still present, around a moved-from value.
+/// - Assignment walks the fields of the record that is there. When one fails, those before it are
+///   new, those behind it old, and it may be neither. To itself, a move may lose texts and lists.
 template <class Record> class eager_handle {
 public:
     eager_handle() : record_(std::make_unique<Record>()) {}
@@ -57,13 +55,11 @@ enum class failed_copy {
 
 /// No record until a field is stored.
 ///
-/// - An empty object answers every getter with the field's default and allocates nothing; a copy
-///   of it is empty too.
-/// - Moving hands the record over and leaves the source empty.
-/// - Copy assignment copies first and swaps then: when the copy fails, the target is unchanged.
-///   The target's old record is released either way.
-/// - The first setter keeps its new record only once the field is stored: when it fails, the
-///   object is still empty.
+/// - An empty object allocates nothing: getters answer with defaults, and a copy is empty too.
+/// - Moving hands the record over and leaves the source empty; the target's own is released.
+/// - Copy assignment copies first: when the copy fails, the target is unchanged.
+/// - The first setter makes a record of defaults and then stores the field: only while the record
+///   cannot be made does the object stay empty.
 template <class Record, failed_copy failure = failed_copy::propagates> class lazy_handle {
     static constexpr bool ends_process = failure == failed_copy::ends_process;
 
@@ -88,21 +84,23 @@ public:
 
     void swap(lazy_handle& other) noexcept { record_.swap(other.record_); }
 
+    /// Whether there is a record; the record, made where there is none.
+    explicit operator bool() const noexcept { return record_ != nullptr; }
+    Record& filled() {
+        if (!record_) {
+            record_ = std::make_unique<Record>();
+        }
+        return *record_;
+    }
+
     /// A copy of a field, or of its default.
     template <class Field> Field get(Field Record::*field) const {
         return record_ ? (*record_).*field : Field();
     }
 
-    /// Stores a field; the first builds the record.
-    template <class Field>
-    void set(Field Record::*field, const std::type_identity_t<Field>& value) {
-        if (record_) {
-            (*record_).*field = value;
-        } else {
-            auto fresh = std::make_unique<Record>();
-            (*fresh).*field = value;
-            record_ = std::move(fresh);
-        }
+    /// Stores a field.
+    template <class Field> void set(Field Record::*field, const Field& value) {
+        filled().*field = value;
     }
 
 private:

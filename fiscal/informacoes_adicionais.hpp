@@ -12,7 +12,8 @@ namespace kivo::erp::v12::fiscal {
 class grupo_processo_referenciado;
 
 /// Free texts of the invoice, and the processes behind it (infAdic).
-/// Eager: failures and moved-from objects follow eager_handle.
+/// Eager: failures and moved-from objects follow eager_handle; a copy of its referenced
+/// processes that fails ends the process, in an accessor or a copy of the whole too.
 class KIVO_ERP_FISCAL_EXPORT informacoes_adicionais {
 public:
     informacoes_adicionais();

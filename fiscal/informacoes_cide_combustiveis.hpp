@@ -17,11 +17,11 @@ public:
     informacoes_cide_combustiveis& operator=(informacoes_cide_combustiveis&& other);
     ~informacoes_cide_combustiveis();
 
-    /// Quantity sold that is the tax base, in the taxable unit (qBCProd).
+    /// Quantity sold that is the tax base; the layout gives no unit (qBCProd).
     decimal get_base_de_calculo() const;
     void set_base_de_calculo(const decimal& value);
 
-    /// CIDE rate, in R$ per unit (vAliqProd).
+    /// CIDE rate, in R$ per unit of that quantity (vAliqProd).
     decimal get_valor_aliquota() const;
     void set_valor_aliquota(const decimal& value);
 

@@ -90,13 +90,6 @@ void issqn::set_valor_retencao_iss(const optional<decimal>& value) {
 std::uint16_t issqn::get_indicador_iss() const { return record_.get(&record::indicador_iss); }
 void issqn::set_indicador_iss(std::uint16_t value) { record_.set(&record::indicador_iss, value); }
 
-optional<std::string> issqn::get_codigo_servico() const {
-    return record_.get(&record::codigo_servico);
-}
-void issqn::set_codigo_servico(const optional<std::string>& value) {
-    record_.set(&record::codigo_servico, value);
-}
-
 optional<std::uint32_t> issqn::get_codigo_municipio_incidencia() const {
     return record_.get(&record::codigo_municipio_incidencia);
 }
@@ -109,6 +102,13 @@ void issqn::set_codigo_pais(const optional<std::uint16_t>& value) {
     record_.set(&record::codigo_pais, value);
 }
 
+std::uint16_t issqn::get_indicador_incentivo() const {
+    return record_.get(&record::indicador_incentivo);
+}
+void issqn::set_indicador_incentivo(std::uint16_t value) {
+    record_.set(&record::indicador_incentivo, value);
+}
+
 optional<std::string> issqn::get_numero_processo() const {
     return record_.get(&record::numero_processo);
 }
@@ -116,11 +116,11 @@ void issqn::set_numero_processo(const optional<std::string>& value) {
     record_.set(&record::numero_processo, value);
 }
 
-std::uint16_t issqn::get_indicador_incentivo() const {
-    return record_.get(&record::indicador_incentivo);
+optional<std::string> issqn::get_codigo_servico() const {
+    return record_.get(&record::codigo_servico);
 }
-void issqn::set_indicador_incentivo(std::uint16_t value) {
-    record_.set(&record::indicador_incentivo, value);
+void issqn::set_codigo_servico(const optional<std::string>& value) {
+    record_.set(&record::codigo_servico, value);
 }
 
 } // namespace kivo::erp::v12::fiscal

@@ -66,10 +66,6 @@ public:
     std::uint16_t get_indicador_iss() const;
     void set_indicador_iss(std::uint16_t value);
 
-    /// Service, code of the municipality, 1 to 20 characters (cServico).
-    optional<std::string> get_codigo_servico() const;
-    void set_codigo_servico(const optional<std::string>& value);
-
     /// Municipality to which the tax is due, IBGE code of 7 digits (cMun).
     optional<std::uint32_t> get_codigo_municipio_incidencia() const;
     void set_codigo_municipio_incidencia(const optional<std::uint32_t>& value);
@@ -78,13 +74,17 @@ public:
     optional<std::uint16_t> get_codigo_pais() const;
     void set_codigo_pais(const optional<std::uint16_t>& value);
 
+    /// Tax incentive: 1 with one, 2 without (indIncentivo).
+    std::uint16_t get_indicador_incentivo() const;
+    void set_indicador_incentivo(std::uint16_t value);
+
     /// Proceeding that suspends the tax, 1 to 30 characters (nProcesso).
     optional<std::string> get_numero_processo() const;
     void set_numero_processo(const optional<std::string>& value);
 
-    /// Tax incentive: 1 with one, 2 without (indIncentivo).
-    std::uint16_t get_indicador_incentivo() const;
-    void set_indicador_incentivo(std::uint16_t value);
+    /// Service, code of the municipality, 1 to 20 characters (cServico).
+    optional<std::string> get_codigo_servico() const;
+    void set_codigo_servico(const optional<std::string>& value);
 
 private:
     struct record;

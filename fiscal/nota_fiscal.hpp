@@ -52,7 +52,8 @@
 namespace kivo::erp::v12::fiscal {
 
 /// An electronic invoice: NF-e (model 55) or NFC-e (model 65) (infNFe).
-/// Eager: failures and moved-from objects follow eager_handle.
+/// Eager: failures and moved-from objects follow eager_handle; where a copy of an item or of the
+/// additional information ends the process when it fails, so does one of the invoice.
 class KIVO_ERP_FISCAL_EXPORT nota_fiscal {
 public:
     /// Terms of payment (no element in layout 4.00, which tells them of each payment). The codes
@@ -85,11 +86,12 @@ public:
 
     /// How a buyer took part in a sale (indPres).
     enum class indicador_presenca : std::uint32_t {
-        nao_se_aplica = 0,                      ///< does not apply, as to a complementary invoice
-        presencial = 1,                         ///< present at the establishment
-        internet = 2,                           ///< not present, over the internet
-        teleatendimento = 3,                    ///< not present, by telephone service
-        entrega_em_domicilio = 4,               ///< home delivery (NFC-e, since 2026 also NF-e)
+        nao_se_aplica = 0,        ///< does not apply, as to a complementary invoice
+        presencial = 1,           ///< present at the establishment
+        internet = 2,             ///< not present, over the internet
+        teleatendimento = 3,      ///< not present, by telephone service
+        entrega_em_domicilio = 4, ///< home delivery by NFC-e; since 2026: not present, with an
+                                  ///< NFC-e or an NF-e with the simplified DANFE type 2
         presencial_fora_do_estabelecimento = 5, ///< present, away from the establishment
         nao_presencial_outros = 9,              ///< not present, otherwise
     };

@@ -1,5 +1,7 @@
 #include <fiscal/produto.hpp>
 
+#include <fiscal/choice.hpp>
+
 #include <variant>
 
 namespace kivo::erp::v12::fiscal {
@@ -302,15 +304,7 @@ void produto::set_tributos_devolvidos(const optional<fiscal::tributos_devolvidos
 
 optional<produto::tributacao> produto::get_tributacao() const { return record_->tributacao; }
 void produto::set_tributacao(const optional<tributacao>& value) {
-    const issqn* const service = value ? std::get_if<issqn>(&*value) : nullptr;
-    if (service != nullptr && record_->tributacao &&
-        !std::holds_alternative<issqn>(*record_->tributacao)) {
-        // assignment would copy the ISSQN aside and keep the ICMS when that fails; as with every
-        // other change of kind, the old tax goes first
-        record_->tributacao->emplace<issqn>(*service);
-    } else {
-        record_->tributacao = value;
-    }
+    replace_choice(record_->tributacao, value);
 }
 
 optional<imposto_seletivo> produto::get_imposto_seletivo() const {

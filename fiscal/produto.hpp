@@ -94,7 +94,9 @@
 namespace kivo::erp::v12::fiscal {
 
 /// An item of the invoice: product and taxes (det).
-/// Eager: failures and moved-from objects follow eager_handle.
+/// Eager: failures and moved-from objects follow eager_handle; a copy that fails in its IBS and
+/// CBS, its selective tax, a monophasic ICMS or the origins of its fuel ends the process, in an
+/// accessor or a copy of the whole too.
 class KIVO_ERP_FISCAL_EXPORT produto {
 public:
     /// Whether the amount of an item is part of the total of the invoice (indTot).

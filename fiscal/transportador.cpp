@@ -1,5 +1,7 @@
 #include <fiscal/transportador.hpp>
 
+#include <fiscal/choice.hpp>
+
 namespace kivo::erp::v12::fiscal {
 
 struct transportador::record {
@@ -20,7 +22,7 @@ transportador::~transportador() = default;
 
 optional<variant<cpf, cnpj>> transportador::get_documento() const { return record_->documento; }
 void transportador::set_documento(const optional<variant<cpf, cnpj>>& value) {
-    record_->documento = value;
+    replace_choice(record_->documento, value);
 }
 
 optional<std::string> transportador::get_razao_social() const { return record_->razao_social; }

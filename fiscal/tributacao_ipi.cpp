@@ -25,24 +25,9 @@ tributacao_ipi& tributacao_ipi::operator=(const tributacao_ipi&) = default;
 tributacao_ipi& tributacao_ipi::operator=(tributacao_ipi&&) = default;
 tributacao_ipi::~tributacao_ipi() = default;
 
-optional<std::string> tributacao_ipi::get_classe_enquadramento_ipi_cigarros_bebidas() const {
-    return record_->classe_enquadramento_ipi_cigarros_bebidas;
-}
-void tributacao_ipi::set_classe_enquadramento_ipi_cigarros_bebidas(
-    const optional<std::string>& value) {
-    record_->classe_enquadramento_ipi_cigarros_bebidas = value;
-}
-
 optional<cnpj> tributacao_ipi::get_cnpj_produtor() const { return record_->cnpj_produtor; }
 void tributacao_ipi::set_cnpj_produtor(const optional<cnpj>& value) {
     record_->cnpj_produtor = value;
-}
-
-optional<std::string> tributacao_ipi::get_codigo_selo_controle_ipi() const {
-    return record_->codigo_selo_controle_ipi;
-}
-void tributacao_ipi::set_codigo_selo_controle_ipi(const optional<std::string>& value) {
-    record_->codigo_selo_controle_ipi = value;
 }
 
 std::uint32_t tributacao_ipi::get_quantidade_selo_controle() const {
@@ -88,5 +73,20 @@ void tributacao_ipi::set_tributacao_ipi_calculo_valor(
 
 optional<decimal> tributacao_ipi::get_valor_ipi() const { return record_->valor_ipi; }
 void tributacao_ipi::set_valor_ipi(const optional<decimal>& value) { record_->valor_ipi = value; }
+
+optional<std::string> tributacao_ipi::get_codigo_selo_controle_ipi() const {
+    return record_->codigo_selo_controle_ipi;
+}
+void tributacao_ipi::set_codigo_selo_controle_ipi(const optional<std::string>& value) {
+    record_->codigo_selo_controle_ipi = value;
+}
+
+optional<std::string> tributacao_ipi::get_classe_enquadramento_ipi_cigarros_bebidas() const {
+    return record_->classe_enquadramento_ipi_cigarros_bebidas;
+}
+void tributacao_ipi::set_classe_enquadramento_ipi_cigarros_bebidas(
+    const optional<std::string>& value) {
+    record_->classe_enquadramento_ipi_cigarros_bebidas = value;
+}
 
 } // namespace kivo::erp::v12::fiscal

@@ -25,17 +25,9 @@ public:
     tributacao_ipi& operator=(tributacao_ipi&& other);
     ~tributacao_ipi();
 
-    /// Framing class of cigarettes and beverages, as text (no element in layout 4.00).
-    optional<std::string> get_classe_enquadramento_ipi_cigarros_bebidas() const;
-    void set_classe_enquadramento_ipi_cigarros_bebidas(const optional<std::string>& value);
-
     /// Producer of exported goods, where it is not the issuer (CNPJProd).
     optional<cnpj> get_cnpj_produtor() const;
     void set_cnpj_produtor(const optional<cnpj>& value);
-
-    /// Control stamp, code of 1 to 60 characters (cSelo).
-    optional<std::string> get_codigo_selo_controle_ipi() const;
-    void set_codigo_selo_controle_ipi(const optional<std::string>& value);
 
     /// Number of control stamps, absent at 0 (qSelo).
     std::uint32_t get_quantidade_selo_controle() const;
@@ -65,6 +57,14 @@ public:
     /// IPI amount, in R$ (vIPI).
     optional<decimal> get_valor_ipi() const;
     void set_valor_ipi(const optional<decimal>& value);
+
+    /// Control stamp, code of 1 to 60 characters (cSelo).
+    optional<std::string> get_codigo_selo_controle_ipi() const;
+    void set_codigo_selo_controle_ipi(const optional<std::string>& value);
+
+    /// Framing class of cigarettes and beverages, as text (no element in layout 4.00).
+    optional<std::string> get_classe_enquadramento_ipi_cigarros_bebidas() const;
+    void set_classe_enquadramento_ipi_cigarros_bebidas(const optional<std::string>& value);
 
 private:
     struct record;

@@ -1,5 +1,7 @@
 #include <fiscal/tributavel_imposto_seletivo.hpp>
 
+#include <utility>
+
 namespace kivo::erp::v12::fiscal {
 
 struct tributavel_imposto_seletivo::record {
@@ -25,7 +27,12 @@ std::string tributavel_imposto_seletivo::get_unidade_medida_tributavel() const {
     return record_.get(&record::unidade_medida_tributavel);
 }
 void tributavel_imposto_seletivo::set_unidade_medida_tributavel(const std::string& value) {
-    record_.set(&record::unidade_medida_tributavel, value);
+    if (record_) {
+        record_.filled().unidade_medida_tributavel = value;
+    } else {
+        std::string text = value; // a text that cannot be copied leaves no record behind
+        record_.filled().unidade_medida_tributavel = std::move(text);
+    }
 }
 
 decimal tributavel_imposto_seletivo::get_quantidade_tributavel() const {

@@ -20,7 +20,8 @@ public:
     ~tributavel_imposto_seletivo();
     void swap(tributavel_imposto_seletivo& other) noexcept;
 
-    /// Taxable unit of measure, 1 to 6 characters (uTrib).
+    /// Taxable unit of measure, 1 to 6 characters (uTrib). A first setter that cannot copy it
+    /// leaves the object empty.
     std::string get_unidade_medida_tributavel() const;
     void set_unidade_medida_tributavel(const std::string& value);
 

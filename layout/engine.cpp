@@ -304,26 +304,33 @@ void reader::tell_text_in_group(const node& group) {
     }
 }
 
-void reader::tell_if_moved(const node& parent, const node& element) {
-    const element_rule* const rule = rule_of(parent);
-    const element_rule* const own = rule == nullptr ? nullptr : rule->child(element.name);
-    bool moved = own == nullptr;
-    bool behind = false;
-    const element_rule* before = nullptr; // the nearest that the layout has
-    for (const node& child : children(parent)) {
-        const element_rule* const each =
-            rule == nullptr || child.name.is_attribute() ? nullptr : rule->child(child.name);
-        if (&child == &element) {
-            moved = moved || (before != nullptr && before->position() > own->position());
-            behind = true;
-        } else if (each != nullptr && behind) {
-            moved = moved || each->position() < own->position();
-            break;
-        } else if (each != nullptr) {
-            before = each;
+bool reader::is_moved(const node& parent, const node& element) {
+    if (ordered_.insert(&parent).second) {
+        const element_rule* const rule = rule_of(parent);
+        const node* before = nullptr; // the last that the layout has
+        unsigned last = 0;
+        for (const node& child : children(parent)) {
+            if (child.name.is_attribute()) {
+                continue;
+            }
+            const element_rule* const own = rule == nullptr ? nullptr : rule->child(child.name);
+            if (own == nullptr) {
+                moved_.insert(&child);
+                continue;
+            }
+            if (before != nullptr && last > own->position()) {
+                moved_.insert(before);
+                moved_.insert(&child);
+            }
+            before = &child;
+            last = own->position();
         }
     }
-    if (moved) {
+    return moved_.contains(&element);
+}
+
+void reader::tell_if_moved(const node& parent, const node& element) {
+    if (is_moved(parent, element)) {
         tell_moved(element, "in the layout's order");
     }
 }
@@ -394,16 +401,17 @@ void reader::tell_unread(const node& element) {
 }
 
 void reader::tell_no_field(const node& element) {
+    std::string path = path_(element);
     const element_rule* const rule = rule_of(element);
     if (rule == nullptr) {
-        (rule_ == nullptr ? told_->without_field : told_->unknown).push_back(path_(element));
-    } else if (last_number(path_(element)) > rule->most()) {
+        (rule_ == nullptr ? told_->without_field : told_->unknown).push_back(std::move(path));
+    } else if (last_number(path) > rule->most()) {
         tell_no_room(element);
     } else {
         if (!element.name.is_attribute()) {
             tell_if_moved(*(&element - element.up), element);
         }
-        told_->without_field.push_back(path_(element));
+        told_->without_field.push_back(std::move(path));
         keep(element, *rule, written_path(element));
     }
 }

@@ -16,6 +16,7 @@
 #include <tuple>
 #include <type_traits>
 #include <unordered_map>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -107,6 +108,10 @@ public:
             tell_refused(element, expected_text<Value>(element.text, how));
             return false;
         }
+        if (gives_back<Value>(element.text) && !how.omit_default) {
+            tell_held(element);
+            return true;
+        }
         value_chars own;
         if (!put_text(own, value, how)) {
             tell_no_room(element);
@@ -160,6 +165,7 @@ private:
     void tell_lost(const table_name& name, const node& element, const node* written_parent);
     /// Tells that an element is not where the layout has it, between those that stand beside it.
     void tell_if_moved(const node& parent, const node& element);
+    bool is_moved(const node& parent, const node& element);
     /// The layout's rule of an element; null where it has none.
     const element_rule* rule_of(const node& element) const;
     /// What is known in an element, by any of those that read its parent; null where nothing is.
@@ -178,6 +184,8 @@ private:
     const table* known_;       // in the root
     const element_rule* rule_; // of the root
     std::unordered_map<const node*, std::uint32_t> renumbered_;
+    std::unordered_set<const node*> ordered_; // groups whose order was looked at
+    std::unordered_set<const node*> moved_;   // what is not in its place in them
     outside_texts* outside_;
     std::vector<placed_text>* kept_;
     report* told_;
@@ -536,6 +544,8 @@ struct action<Class, word::field<Name, Get, Set, How>>
     : named_word<Name, typename accessor<Get, Set>::value_type> {
     using value_type = typename accessor<Get, Set>::value_type;
     static constexpr bool plain = is_plain<value_type>;
+    static_assert(group<content_of<value_type>> || single_value<content_of<value_type>>,
+                  "neither a class with a map nor a single value");
 
     static taken read(reader& in, const node& parent, const node& first, void* object) {
         auto& target = *static_cast<Class*>(object);
@@ -782,7 +792,7 @@ struct action<Class, word::outside<Name, Member, Derive>> : named_word<Name> {
 template <class Class> struct table_filler {
     table_name* names = nullptr;
     table_entry* list = nullptr;
-    std::string_view* fields = nullptr; // the getters of the entries
+    const void** fields = nullptr; // what tells the accessors of the entries apart
     std::size_t name_count = 0;
     std::size_t entry_count = 0;
 
@@ -794,10 +804,10 @@ template <class Class> struct table_filler {
             requires { typename Entry::inner; } && !requires { Entry::name; }) {
             add_exclusive(typename Entry::inner());
         } else if constexpr (requires { action<Class, Entry>::plain; }) {
-            const std::string_view own_field = field_of<Entry>();
+            const void* const own_field = field_of<Entry>();
             if (list != nullptr) {
                 fields[entry_count] = own_field;
-                for (std::size_t index = 0; !own_field.empty() && index < entry_count; ++index) {
+                for (std::size_t index = 0; own_field != nullptr && index < entry_count; ++index) {
                     beside = fields[index] == own_field ? index : beside;
                 }
                 list[entry_count] = {&action<Class, Entry>::read, &action<Class, Entry>::write,
@@ -824,15 +834,15 @@ private:
         (add<Entry>(first), ...);
     }
 
-    /// The getter of the field that an entry has, or has again.
-    template <class Entry> static constexpr std::string_view field_of() {
-        if constexpr (requires { Entry::getter_name; }) {
-            return Entry::getter_name;
+    /// Tells the field that an entry has, or has again, from others.
+    template <class Entry> static constexpr const void* field_of() {
+        if constexpr (requires { typename Entry::value_type; }) {
+            return &accessor<Entry::get, Entry::set>::identity;
         } else if constexpr (
             requires { typename Entry::entry; } && !requires { Entry::condition; }) {
             return field_of<typename Entry::entry>();
         } else {
-            return {};
+            return nullptr;
         }
     }
 
@@ -880,7 +890,7 @@ private:
     };
     static constexpr filled_table filled = [] {
         filled_table result{};
-        std::array<std::string_view, counted.entry_count> fields{};
+        std::array<const void*, counted.entry_count> fields{};
         table_filler<Class> filler{result.names.data(), result.list.data(), fields.data()};
         filler.add_all(Entries());
         return result;

@@ -169,6 +169,7 @@ template <auto Get, auto Set> struct accessor {
 
     static constexpr auto get = Get;
     static constexpr auto set = Set;
+    static constexpr char identity = 0; ///< its address is that of no other accessor pair
     static constexpr std::string_view getter_name = detail::member_name<Get>();
     static constexpr std::string_view setter_name = detail::member_name<Set>();
 };
@@ -181,8 +182,6 @@ template <characters Name, auto Get, auto Set, form How> struct field : accessor
     static constexpr form how = How;
     using held = content_of<typename accessor<Get, Set>::value_type>;
 
-    static_assert(group<held> || single_value<held>,
-                  "neither a group of the map nor a single value");
     static_assert((How.width == 0 && How.base == 10) || coded_value<held>,
                   "digits are for numbers and codes");
 };

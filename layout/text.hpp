@@ -115,6 +115,19 @@ bool read_text(Value& value, std::string_view text, const form& how = {}) {
     }
 }
 
+/// Whether a text that was read is certainly the value's own.
+template <single_value Value> bool gives_back(std::string_view text) {
+    if constexpr (std::same_as<Value, std::string>) {
+        return true;
+    } else if constexpr (amount_structure<Value>) {
+        return gives_back<fiscal::decimal>(text);
+    } else if constexpr (requires { core::v7::value_converter<Value>::gives_back(text); }) {
+        return core::v7::value_converter<Value>::gives_back(text);
+    } else {
+        return false;
+    }
+}
+
 /// The layout's text of a value; absent where the value has none, such as a date never set.
 template <single_value Value>
 core::v7::optional<std::string> text_of(const Value& value, const form& how = {}) {

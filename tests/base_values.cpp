@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <limits>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -19,6 +21,23 @@ template <class Value>
 concept one_word = sizeof(Value) == 8 && std::is_trivially_copyable_v<Value>;
 static_assert(one_word<decimal> && one_word<date> && one_word<datetime> && one_word<cnpj> &&
               one_word<cpf>);
+
+/// Whether the compiler makes a value of such arguments.
+template <class Value, class... Arguments>
+concept made_of = requires(Arguments... arguments) {
+    Value::make(arguments...);
+};
+static_assert(made_of<decimal, int, unsigned> && made_of<decimal, long, short>);
+static_assert(made_of<date, int, std::uint8_t, long long> && made_of<date, long, int, unsigned>);
+static_assert(made_of<datetime, date, int, unsigned, long, datetime::utc_offset>);
+// 42.90 would be 42, and what does not fit would be another number
+static_assert(!made_of<decimal, double, int> && !made_of<decimal, int, float>);
+static_assert(!made_of<decimal, std::uint64_t, int> && !made_of<decimal, int, std::uint64_t>);
+static_assert(!made_of<date, double, int, int> && !made_of<date, int, std::uint64_t, int> &&
+              !made_of<date, int, int, float>);
+static_assert(!made_of<datetime, date, double, int, int, datetime::utc_offset> &&
+              !made_of<datetime, date, int, std::uint64_t, int, datetime::utc_offset> &&
+              !made_of<datetime, date, int, int, float, datetime::utc_offset>);
 
 template <class Value> int read(Value& value, std::string_view text) {
     return core::v7::value_converter<Value>::make_value(value, text.data(), text.size());
@@ -127,6 +146,36 @@ TEST(base_values, decimals_are_made_of_coefficient_and_scale) {
     EXPECT_FALSE(decimal::make(decimal::max_coefficient + 1, 0));
     EXPECT_FALSE(decimal::make(-decimal::max_coefficient - 1, 0));
     EXPECT_FALSE(decimal::make(0, 16));
+}
+
+// Catches an overflow in a check, and an argument that is cut off before it is checked.
+TEST(base_values, are_not_made_of_what_does_not_fit) {
+    constexpr std::int64_t one_of_32_bits = 1 + (std::int64_t(1) << 32);
+    using limits = std::numeric_limits<std::int64_t>;
+    for (const std::int64_t end :
+         {limits::min(), -one_of_32_bits, std::int64_t(-1), one_of_32_bits, limits::max()}) {
+        EXPECT_FALSE(decimal::make(1, end)) << end;
+        EXPECT_FALSE(date::make(end, 1, 1)) << end;
+        EXPECT_FALSE(date::make(2026, end, 1)) << end;
+        EXPECT_FALSE(date::make(2026, 1, end)) << end;
+        const date day = date::make(2026, 11, 24).value();
+        EXPECT_FALSE(datetime::make(day, end, 0, 0, {})) << end;
+        EXPECT_FALSE(datetime::make(day, 0, end, 0, {})) << end;
+        EXPECT_FALSE(datetime::make(day, 0, 0, end, {})) << end;
+    }
+    EXPECT_FALSE(decimal::make(limits::min(), 0));
+    EXPECT_FALSE(decimal::make(limits::max(), 0));
+    const auto with_offset = [](unsigned hours, unsigned minutes) {
+        return datetime::make(date::make(2026, 11, 24).value(), 8, 30, 15, {true, hours, minutes});
+    };
+    constexpr unsigned largest = std::numeric_limits<unsigned>::max();
+    for (const unsigned end : {largest, largest / 60 + 1, largest - 59}) {
+        EXPECT_FALSE(with_offset(end, 0)) << end;
+        EXPECT_FALSE(with_offset(0, end)) << end;
+        EXPECT_FALSE(with_offset(end, end)) << end;
+    }
+    EXPECT_TRUE(with_offset(14, 0));
+    EXPECT_FALSE(with_offset(14, 1));
 }
 
 // Catches a wrong leap year and a month's end that is off by one.

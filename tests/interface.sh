@@ -1,8 +1,10 @@
 #!/bin/bash
 # Checks what the shared library asks of the outside and keeps to itself.
-# Usage: interface.sh LIBRARY
+# Usage: interface.sh LIBRARY EXPORTS COMPILER
 set -euo pipefail
 library=$1
+exports=$2
+compiler=$3
 failed=0
 
 fail() {
@@ -24,6 +26,18 @@ readelf --dynamic --wide "$library" | grep -q 'SONAME.*\[libkivo-erp-fiscal.so.1
 foreign=$(nm --dynamic --defined-only --without-symbol-versions --demangle "$library" |
     cut -d' ' -f3- | grep -vE '^(kivo::|KIVO_ERP_FISCAL_12$)') || true
 [ -z "$foreign" ] || fail "exports $foreign"
+
+# the converters take a std::size_t, which is an unsigned int on other machines
+scratch=$(mktemp -d)
+trap 'rm -r "$scratch"' EXIT
+nm --dynamic --defined-only --without-symbol-versions "$library" | cut -d' ' -f3 |
+    grep -E 'converter.*make_' | sed -E 's/(EPcR|PKc)m/\1j/' > "$scratch/others"
+sed 's/.*/.globl &\n.type &, %function\n&:/' "$scratch/others" |
+    "$compiler" -shared -nostdlib -x assembler - -o "$scratch/other.so" \
+        "-Wl,--version-script=$exports"
+[ "$(nm --dynamic --defined-only --without-symbol-versions "$scratch/other.so" |
+    grep --count --word-regexp --fixed-strings --file="$scratch/others")" = 2 ] ||
+    fail "exports no converters where std::size_t is unsigned int"
 
 # constants that hold addresses stand in .data.rel.ro and are read-only once they are relocated;
 # what the compiler's own start-up files bring is no data of ours

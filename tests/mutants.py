@@ -204,11 +204,12 @@ HANDLE_FAULTS = [  # what stands in handle.hpp, and what is wrong instead
     ("record_ ? (*record_).*field : Field()", "(*record_).*field"),
     ("record_ ? (*record_).*field", "record_ ? std::move((*record_).*field)"),
     (".*field : Field()", ".*field : Record().*field"),
-    ("if (record_) {\n            (*record_).*field = value;\n        } else {", "{"),
-    ("(*fresh).*field = value;\n            record_ = std::move(fresh);",
-     "record_ = std::move(fresh);\n            (*record_).*field = value;"),
-    ("            record_ = std::move(fresh);\n", ""),
-    ("record_ = std::move(fresh);", "record_.reset(fresh.get());"),
+    ("        if (!record_) {", "        {"),
+    ("            record_ = std::make_unique<Record>();\n", ""),
+    ("        return *record_;", "        return *record_.release();"),
+    ("filled().*field = value;", "if (record_) {\n(*record_).*field = value;\n} else {\n"
+     "auto fresh = std::make_unique<Record>();\n(*fresh).*field = value;\n"
+     "record_ = std::move(fresh);\n}"),
     ("lazy_handle& other) noexcept(ends_process)\n", "lazy_handle& other)\n"),
     ("lazy_handle& other) noexcept(ends_process)\n", "lazy_handle& other) noexcept\n"),
     ("failure == failed_copy", "failure != failed_copy"),
@@ -219,9 +220,13 @@ CHOICE_FAULTS = [  # the same of produto.cpp
     ("*choice = *value;", "choice.emplace(*value);"),
     ("*choice = *value;", "choice = especifico(*value);"),
     ("if (!value) {", "if (value) {"),
-    ("        !std::holds", "        std::holds"),
-    ("if (service != nullptr", "if (false"),
-    (" && record_->tributacao &&", " &&"),
+]
+REPLACEMENT_FAULTS = [  # the same of choice.hpp
+    ("stored.index() == value.index() || ", ""),
+    ("stored.index() == value.index() ||", "true ||"),
+    ("stored.template emplace<Kind>(kind);", "stored = kind;"),
+    ("        replace_choice(*stored, *value);", "        stored = value;"),
+    ("if (stored && value)", "if (stored)"),
 ]
 
 
@@ -252,7 +257,8 @@ def all_mutants(classes):
         yield from (("a limit or comparison changed", f"{path}:{what}", texts)
                     for what, texts in changed_limits(path))
     for kind, path, faults in [("a fault in the handles", "fiscal/handle.hpp", HANDLE_FAULTS),
-                               ("a fault in the choices", "fiscal/produto.cpp", CHOICE_FAULTS)]:
+                               ("a fault in the choices", "fiscal/produto.cpp", CHOICE_FAULTS),
+                               ("a fault in the choices", "fiscal/choice.hpp", REPLACEMENT_FAULTS)]:
         yield from ((kind, what, texts) for what, texts in listed_faults(path, faults))
 
 
@@ -351,7 +357,7 @@ class Worker:
             found = self.found_by_new("base_values", [tests / "base_values.cpp",
                                                       tests / "converter.cpp"])
             return INVALID if found == "compiler" else found or SURVIVED
-        of_a_class = path.endswith(".hpp") and name != "handle"
+        of_a_class = path.endswith(".hpp") and name not in ("choice", "handle")
         sources = self.build.sources_of(path) if path.endswith(".hpp") else [path]
         if name == "handle":
             # it is compiled into each class; those of three subsystems are of all kinds

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <chrono>
 #include <filesystem>
+#include <fstream>
 #include <set>
 #include <sstream>
 #include <string>
@@ -26,6 +27,7 @@ using erp::v12::layout::read_xml;
 using erp::v12::layout::write_xml;
 
 const std::string source_folder = KIVO_SOURCE_DIR;
+const std::string facts_folder = KIVO_FACTS_DIR;
 
 std::vector<std::string> sample_files() {
     std::vector<std::string> result;
@@ -136,6 +138,55 @@ TEST(samples, give_up_their_items_one_by_one) {
             expected = expected.next_sibling("det");
         }
         EXPECT_FALSE(expected);
+    }
+}
+
+/// The paths of all places that a field has, and of the groups around them.
+std::set<std::string> paths_of_fields() {
+    std::ifstream file(facts_folder + "/fields.tsv");
+    std::set<std::string> result;
+    std::string line;
+    std::getline(file, line); // names of the columns
+    while (std::getline(file, line)) {
+        const std::string path = line.substr(0, line.find('\t'));
+        for (std::size_t end = path.find('/'); end != path.npos; end = path.find('/', end + 1)) {
+            result.insert(path.substr(0, end));
+        }
+        result.insert(path);
+    }
+    result.erase(""); // of fields without an element
+    EXPECT_GT(result.size(), 700U) << "the layout map has more places";
+    return result;
+}
+
+// Catches an element that is told to have no field although it has one.
+TEST(samples, report_only_what_the_layout_map_lacks) {
+    const std::set<std::string> known = paths_of_fields();
+    std::size_t told = 0;
+    for (const std::string& file : sample_files()) {
+        const invoice_document document = read_file(file);
+        EXPECT_TRUE(document.report.unknown.empty()) << file;
+        for (std::string path : document.report.without_field) {
+            while (path.find('[') != path.npos) {
+                path.erase(path.find('['), path.find(']') - path.find('[') + 1);
+            }
+            EXPECT_FALSE(known.contains(path)) << file << ": " << path;
+            ++told;
+        }
+    }
+    EXPECT_GT(told, 0U) << "no sample has an element without a field";
+}
+
+// Catches a field or an alternative that no sample shows to work.
+TEST(samples, use_every_place_of_every_field) {
+    std::set<std::string> used;
+    for_each_written_sample([&](const pugi::xml_node& infnfe) {
+        for (const std::string& line : lines_of(infnfe)) {
+            used.insert(line.substr(0, line.find(' ')));
+        }
+    });
+    for (const std::string& path : paths_of_fields()) {
+        EXPECT_TRUE(used.contains("infNFe/" + path)) << path;
     }
 }
 

@@ -236,7 +236,64 @@ TYPED_TEST_P(every_throw, every_walk_keeps_to_the_record) {
     }
 }
 
+/// How many operations an action asks of values, but for releases.
+inline std::size_t operations_in(const std::vector<event>& log) {
+    return static_cast<std::size_t>(std::count_if(
+        log.begin(), log.end(), [](const event& each) { return each.what != operation::destroy; }));
+}
+
+// Catches a first setter that keeps half a record, or takes back a whole one.
+TYPED_TEST_P(every_throw, in_a_first_setter_leaves_nothing_or_defaults) {
+    if constexpr (lazy<TypeParam>) {
+        for_each_field<TypeParam>([](const auto& changed, std::size_t index) {
+            using accessor = std::remove_cvref_t<decltype(changed)>;
+            using value_type = value_of<accessor, TypeParam>;
+            const value_type value = sample_for<TypeParam, accessor>(index, 2);
+            const value_type by_default{};
+
+            std::vector<event> first;
+            std::vector<event> second;
+            TypeParam filled;
+            const std::size_t before = counting::live;
+            for (std::vector<event>* const log : {&first, &second}) {
+                counting::log = log;
+                (filled.*changed.set)(by_default);
+            }
+            counting::log = nullptr;
+            const std::size_t of_a_record = counting::live - before;
+            const std::size_t to_make_one = operations_in(first) - operations_in(second);
+
+            std::size_t start = 0;
+            fail_each_operation<TypeParam>(
+                [&] {
+                    start = counting::live;
+                    return TypeParam();
+                },
+                [&](TypeParam& object) { (object.*changed.set)(value); },
+                [&](const TypeParam& object, const std::vector<event>& log) {
+                    const bool made = operations_in(log) >= to_make_one;
+                    std::size_t kept = made ? of_a_record : 0;
+                    const auto found = texts(object);
+                    auto expected = texts(TypeParam());
+                    if constexpr (is_variant<value_type>) {
+                        if (made && value.index() != by_default.index()) {
+                            expected[index] = "valueless";
+                            --kept; // the default amount
+                        }
+                    } else if (made && erp::v12::layout::group<value_type> && !lazy<value_type>) {
+                        expected[index] = found[index]; // new in part
+                        kept = std::max(kept, counting::live - start);
+                    }
+                    EXPECT_EQ(counting::live - start, kept) << changed.setter_name;
+                    EXPECT_EQ(found, expected) << changed.setter_name;
+                });
+        });
+    }
+}
+
 REGISTER_TYPED_TEST_SUITE_P(every_throw, in_construction_releases_what_was_built,
-                            in_assignment_leaves_a_whole_target, every_walk_keeps_to_the_record);
+                            in_assignment_leaves_a_whole_target,
+                            in_a_first_setter_leaves_nothing_or_defaults,
+                            every_walk_keeps_to_the_record);
 
 } // namespace kivo::tests

@@ -9,7 +9,8 @@ using namespace kivo::erp::v12::fiscal;
 
 template <class Value> Value from_text(const char* text) {
     Value value;
-    kivo::core::v7::value_converter<Value>::make_value(value, text, std::strlen(text));
+    static_cast<void>(
+        kivo::core::v7::value_converter<Value>::make_value(value, text, std::strlen(text)));
     return value;
 }
 

@@ -28,8 +28,18 @@ KIVO_SHARED std::size_t allowed = std::numeric_limits<std::size_t>::max(); // be
 
 #undef KIVO_SHARED
 
+/// Whether moves fail as all else does; a program of the tests has base values that never do.
+#ifdef KIVO_MOVES_NEVER_THROW
+inline constexpr bool moves_may_throw = false;
+#else
+inline constexpr bool moves_may_throw = true;
+#endif
+
 inline void note(operation what, std::uint64_t number) {
-    if (what != operation::destroy && allowed-- == 0) {
+    const bool may_throw = what == operation::move || what == operation::move_assign
+                               ? moves_may_throw
+                               : what != operation::destroy;
+    if (may_throw && allowed-- == 0) {
         throw failure();
     }
     if (log != nullptr) {
@@ -52,7 +62,7 @@ public:
         note(operation::copy, number_);
         ++live;
     }
-    counted(counted&& other) : number_(other.number_) {
+    counted(counted&& other) noexcept(!moves_may_throw) : number_(other.number_) {
         note(operation::move, number_);
         ++live;
     }
@@ -61,7 +71,7 @@ public:
         number_ = other.number_;
         return *this;
     }
-    counted& operator=(counted&& other) {
+    counted& operator=(counted&& other) noexcept(!moves_may_throw) {
         note(operation::move_assign, other.number_);
         number_ = other.number_;
         return *this;
