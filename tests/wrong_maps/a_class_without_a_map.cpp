@@ -1,7 +1,7 @@
-// error: neither a group of the map nor a single value
+// error: neither a class with a map nor a single value
 #include <fiscal/informacoes_transporte.hpp>
 #include <fiscal/volume.hpp>
-#include <layout/map.hpp>
+#include <layout/engine.hpp>
 
 namespace kivo::erp::v12::layout {
 
@@ -13,5 +13,7 @@ template <> struct map_of<informacoes_transporte> {
         field<"vol", &c::get_volumes, &c::set_volumes>,
     };
 };
+
+const table& known = table_of<map_of<informacoes_transporte>>();
 
 } // namespace kivo::erp::v12::layout
