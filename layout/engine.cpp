@@ -179,10 +179,12 @@ void reader::finish(const table& known, const frame& read, const node& parent, c
         if (!stored && stands && entry.plain) {
             written = written_by(*outside_, [&](writer& out) { entry.write(out, object); });
             for (const placed_text& text : texts_of(written.root())) {
-                const node* const there = child_named(parent, std::string_view(text.path));
+                const std::string_view path = text.path;
+                const std::size_t name = known.find(path);
                 // a group is still there when all that was in it was refused
-                if (there == nullptr || there->size == 1) {
-                    tell_added(parent, text.path, text.text);
+                if (name == table::none || known.names[name].inner == nullptr ||
+                    child_named(parent, path) == nullptr) {
+                    tell_added(parent, path, text.text);
                 }
             }
         }
@@ -197,14 +199,26 @@ void reader::finish(const table& known, const frame& read, const node& parent, c
                     }
                 }
             } else if (element != nullptr && !stands) {
-                const std::string group = path_(*element) + '/';
-                std::erase_if(told_->added, [&](const report::remark& added) {
-                    return added.path.starts_with(group);
-                });
+                take_back(*element);
                 tell_no_room(*element);
             }
         }
     }
+}
+
+void reader::take_back(const node& element) {
+    const auto is_in = [](const std::string& group) {
+        return [group = group + '/'](const auto& told) {
+            if constexpr (requires { told.path; }) {
+                return told.path.starts_with(group);
+            } else {
+                return told.starts_with(group);
+            }
+        };
+    };
+    std::erase_if(told_->added, is_in(path_(element)));
+    std::erase_if(told_->without_field, is_in(path_(element)));
+    std::erase_if(*kept_, is_in(written_path(element)));
 }
 
 void reader::tell_lost(const table_name& name, const node& element, const node* written_parent) {

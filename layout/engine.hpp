@@ -158,6 +158,8 @@ private:
               void* object, frame& read);
     void finish(const table& known, const frame& read, const node& parent, const void* object);
     void tell_inner(const node& element);
+    /// Takes back what was told to be written in an element that is not.
+    void take_back(const node& element);
     /// Tells of a group with nothing in it that no entry stored, and that is not written, and of
     /// those in it.
     void tell_lost(const table_name& name, const node& element, const node* written_parent);

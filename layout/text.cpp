@@ -61,7 +61,7 @@ std::string expected_number(std::uint64_t largest, const form& how) {
 }
 
 std::string expected_identifier(std::string_view name, std::string_view text) {
-    const bool repeated = !text.empty() && text.find_first_not_of(text.front()) == text.npos;
+    const bool repeated = text.size() >= 11 && text.find_first_not_of(text.front()) == text.npos;
     return "a " + std::string(name) +
            (repeated ? "; those of one repeated digit are not issued" : " with their check digits");
 }

@@ -50,8 +50,10 @@ void tree::adopt_texts(tree& other) {
 }
 
 void tree::make_room(std::size_t size) {
-    left_ = std::max(size, std::size_t{8192});
-    next_ = texts_.emplace_back(new char[left_]).get();
+    const std::size_t room = std::max(size, std::size_t{8192});
+    auto chars = std::make_unique_for_overwrite<char[]>(room);
+    next_ = texts_.emplace_back(std::move(chars)).get();
+    left_ = room;
 }
 
 std::string_view tree::keep(std::string_view text) {

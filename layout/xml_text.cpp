@@ -344,6 +344,10 @@ tree parse_xml(std::string_view xml) {
     if (root.empty()) {
         refuse("no element in it");
     }
+    // the parser overwrites the last character, and so loses one that stands alone
+    if (xml[xml.find_last_not_of(" \t\r\n")] != '>') {
+        refuse("a text behind its root");
+    }
     result.expect(xml.size() / 32);
     tree_maker maker(result, xml.find("xmlns:") != xml.npos);
     parsed.traverse(maker);
@@ -355,8 +359,8 @@ namespace {
 /// Which characters stand otherwise in XML.
 constexpr std::array<bool, 256> escaped_characters = [] {
     std::array<bool, 256> result{};
-    for (const unsigned char character : {'&', '<', '>', '\r'}) {
-        result[character] = true;
+    for (const char character : {'&', '<', '>', '\r'}) {
+        result[static_cast<unsigned char>(character)] = true;
     }
     return result;
 }();

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -13,6 +15,7 @@ namespace kivo::tests {
 
 using erp::v12::layout::read_file;
 using erp::v12::layout::read_xml;
+using erp::v12::layout::write_xml;
 
 std::string invoice_with(const std::string& content) {
     return "<NFe xmlns='http://www.portalfiscal.inf.br/nfe'><infNFe versao='4.00' Id='NFe" +
@@ -158,6 +161,181 @@ TEST(invoice, what_is_no_invoice_is_refused_with_a_reason) {
     EXPECT_THROW(read_xml("<NFe>" + closed + "</NFe>"), std::runtime_error) << "nested too deeply";
     EXPECT_THROW(read_file("no such file.xml"), std::runtime_error);
     EXPECT_THROW(read_file("."), std::runtime_error) << "a folder";
+}
+
+/// A text in UTF-16, of characters below U+0080 alone.
+std::string utf_16(const std::string& text, bool big_endian) {
+    std::string result = big_endian ? "\xFE\xFF" : "\xFF\xFE";
+    for (const char character : text) {
+        result += big_endian ? std::string{'\0', character} : std::string{character, '\0'};
+    }
+    return result;
+}
+
+// Catches bytes that are read as another character, or as none, and texts that lose a piece.
+TEST(xml, is_read_as_what_it_says) {
+    const auto with = [](const std::string& encoding, const std::string& name) {
+        return "<?xml version='1.0'" + (encoding.empty() ? "" : " encoding='" + encoding + "'") +
+               "?><NFe><infNFe><emit><xNome>" + name + "</xNome></emit></infNFe></NFe>";
+    };
+    const struct {
+        std::string xml;
+        std::string text; ///< empty: it is refused
+    } rows[] = {
+        {with("", "Pão"), "Pão"},
+        {with("UTF-8", "Pão"), "Pão"},
+        {"\xEF\xBB\xBF" + with("utf-8", "Pão"), "Pão"},
+        {with("ISO-8859-1", "P\xE3o"), "Pão"},
+        {with("iso-8859-1", "\x80"), "\u0080"},
+        {with("Windows-1252", "P\xE3o \x80 \x93\x94"), "Pão € “”"},
+        {with("windows-1252", "\x81"), ""},
+        {with("", "P\xE3o"), ""},
+        {with("UTF-8", "P\xE3o"), ""},
+        {with("UTF-8", "\xC0\x80"), ""},
+        {with("UTF-8", "\xED\xA0\x80"), ""},
+        {with("EBCDIC", "Pao"), ""},
+        {utf_16(with("UTF-16", "Pao"), false), "Pao"},
+        {utf_16(with("UTF-16", "Pao"), true), "Pao"},
+        {utf_16(with("UTF-16", "Pao"), true) + "x", ""},
+        {with("", "a &amp; &lt;b&gt; &#233;&#xE9;"), "a & <b> éé"},
+        {with("", "&#1;"), ""},
+        {with("", "&#x10FFFF;"), "\U0010FFFF"},
+        {with("", "&#x110000;"), ""},
+        {with("", "&#xD800;"), ""},
+        {with("", "&nada;"), ""},
+        {with("", "a & b"), ""},
+        {with("", "a\x01"
+                  "b"),
+         ""},
+        {with("", "<![CDATA[a < b & c]]>"), "a < b & c"},
+        {with("", "a<![CDATA[<]]>b"), "a<b"},
+        {with("", "a<!-- & -->b"), "ab"},
+        {with("", "a<?p?>b"), "ab"},
+        {with("", "   "), "   "},
+        {with("", "a\r\nb"), "a\nb"},
+        {with("", "a") + "<NFe/>", ""},
+        {with("", "a") + "x", ""},
+        {with("", "a") + "<!-- -->\n", "a"},
+        {"<NFe><infNFe a='1' a='2'/></NFe>", ""},
+        {"<NFe><infNFe><emit></infNFe></emit></NFe>", ""},
+        {"<NFe><infNFe>", ""},
+    };
+    for (const auto& row : rows) {
+        try {
+            EXPECT_EQ(read_xml(row.xml).invoice.get_emitente().get_razao_social(), row.text)
+                << row.xml;
+            EXPECT_NE(row.text, "") << row.xml << " was read";
+        } catch (const std::runtime_error& failure) {
+            EXPECT_EQ(row.text, "") << failure.what();
+            EXPECT_TRUE(std::string(failure.what()).starts_with("not an XML document: "))
+                << failure.what();
+        }
+    }
+}
+
+// Catches a document that the authorities would not take for an invoice, and texts that break it.
+TEST(xml, is_written_as_the_layout_has_it) {
+    auto document = read_file(KIVO_SOURCE_DIR "/examples/data/nfe.xml");
+    const std::string begin = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>"
+                              "<NFe xmlns=\"http://www.portalfiscal.inf.br/nfe\"><infNFe ";
+    EXPECT_EQ(write_xml(document).substr(0, begin.size()), begin);
+    auto issuer = document.invoice.get_emitente();
+    for (const std::string text :
+         {"a < b & c > \"d\" 'e'", "]]>", " a ", "a\r\nb\tc", "\U0001F600"}) {
+        issuer.set_razao_social(text);
+        document.invoice.set_emitente(issuer);
+        EXPECT_EQ(read_xml(write_xml(document)).invoice.get_emitente().get_razao_social(), text);
+    }
+    for (const std::string& text : {std::string("a\0b", 3), std::string("\x1F"),
+                                    std::string("\xE3"), std::string("\uFFFE")}) {
+        issuer.set_razao_social(text);
+        document.invoice.set_emitente(issuer);
+        EXPECT_THROW(write_xml(document), std::runtime_error);
+    }
+}
+
+// Catches an element that is put anywhere, or beside the field that it has.
+TEST(kept, goes_to_its_place_or_is_refused_with_a_reason) {
+    using erp::v12::layout::placed_text;
+    const auto document = read_file(KIVO_SOURCE_DIR "/examples/data/nfe.xml");
+    const struct {
+        std::vector<placed_text> added;
+        std::string expected; ///< what is written, or the reason
+    } rows[] = {
+        {{{"infAdic/obsCont/@xCampo", "a"}, {"infAdic/obsCont/xTexto", "b"}},
+         "</infCpl><obsCont xCampo=\"a\"><xTexto>b</xTexto></obsCont></infAdic>"},
+        {{{"infAdic/obsCont[1]/xTexto", "b"}, {"infAdic/obsCont[2]/xTexto", "d"}},
+         "</infCpl><obsCont><xTexto>b</xTexto></obsCont><obsCont><xTexto>d</xTexto></obsCont>"},
+        {{{"dest/IM", "7"}}, "</IE><IM>7</IM><email>"},
+        {{{"compra/xPed", "7"}}, "</infAdic><compra><xPed>7</xPed></compra><infRespTec>"},
+        {{{"transp/vol[2]/lacres/nLacre", "7"}},
+         "</pesoB><lacres><nLacre>7</nLacre></lacres></vol>"},
+        {{{"ide/NFref[2]/refCTe", "7"}}, "</NFref><NFref><refCTe>7</refCTe></NFref></ide>"},
+        {{{"det[2]/infAdProd", "7"}}, "det[2]/infAdProd: the element has a field"},
+        {{{"emit/xNome", "7"}}, "emit/xNome: the element has a field"},
+        {{{"emit/cor", "7"}}, "emit/cor: the layout has no cor there"},
+        {{{"cor/azul", "7"}}, "cor/azul: the layout has no cor there"},
+        {{{"compra/xPed/cor", "7"}}, "compra/xPed/cor: the element is a text"},
+        {{{"compra", "7"}}, "compra: the element is a group"},
+        {{{"compra[2]/xPed", "7"}}, "compra[2]/xPed: the layout takes no more than 1"},
+        {{{"det[9]/infProdNFF", "7"}}, "det[9]/infProdNFF: the invoice has no such det"},
+        {{{"exporta/cor", "7"}}, "exporta/cor: the invoice has no such exporta"},
+        {{{"infAdic/obsCont[2]/xTexto", "7"}},
+         "infAdic/obsCont[2]/xTexto: number 2 without those before it"},
+        {{{"infAdic/obsCont[11]/xTexto", "7"}},
+         "infAdic/obsCont[11]/xTexto: the layout takes no more than 10"},
+        {{{"compra/xPed", "7"}, {"compra/xPed", "8"}}, "compra/xPed: named twice"},
+        {{{"compra//xPed", "7"}}, "compra//xPed: an element without a name"},
+        {{{"", "7"}}, ": an element without a name"},
+        {{{"compra[0]/xPed", "7"}}, "compra[0]/xPed: no number in brackets"},
+        {{{"compra[x]/xPed", "7"}}, "compra[x]/xPed: no number in brackets"},
+        {{{"compra[1/xPed", "7"}}, "compra[1/xPed: no number in brackets"},
+    };
+    for (const auto& row : rows) {
+        auto kept = document.kept;
+        kept.insert(kept.end(), row.added.begin(), row.added.end());
+        try {
+            const std::string written = write_xml(document.invoice, document.outside, kept);
+            EXPECT_NE(written.find(row.expected), written.npos) << row.expected << '\n' << written;
+        } catch (const std::invalid_argument& failure) {
+            EXPECT_EQ(failure.what(), row.expected);
+        }
+    }
+
+    // changed and dropped
+    auto kept = document.kept;
+    const auto place = std::find_if(kept.begin(), kept.end(), [](const placed_text& each) {
+        return each.path == "entrega/xNome";
+    });
+    ASSERT_NE(place, kept.end());
+    place->text = "Doca 15";
+    const std::string changed = write_xml(document.invoice, document.outside, kept);
+    EXPECT_NE(changed.find("<xNome>Doca 15</xNome>"), changed.npos);
+    const std::string dropped = write_xml(document.invoice, document.outside);
+    EXPECT_EQ(dropped.find("Curva da Maré"), dropped.npos);
+    EXPECT_EQ(read_xml(dropped).kept, std::vector<placed_text>());
+}
+
+// Catches a value that is left out because its text is longer than the first buffer for it.
+TEST(value_chars, have_room_for_long_texts) {
+    using erp::v12::layout::value_chars;
+    for (const std::size_t size : {63U, 64U, 65U, 1000U, 65536U}) {
+        value_chars chars;
+        EXPECT_TRUE(chars.put([&](char* buffer, std::size_t& length) {
+            if (length < size) {
+                return static_cast<int>(core::v7::conversion_buffer_too_small);
+            }
+            std::fill_n(buffer, size, 'x');
+            length = size;
+            return static_cast<int>(core::v7::conversion_success);
+        }));
+        EXPECT_EQ(chars.text(), std::string(size, 'x'));
+    }
+    value_chars chars;
+    const auto never = [](char*, std::size_t&) {
+        return static_cast<int>(core::v7::conversion_buffer_too_small);
+    };
+    EXPECT_THROW(chars.put(never), std::length_error);
 }
 
 } // namespace kivo::tests
