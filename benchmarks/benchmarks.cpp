@@ -1,4 +1,5 @@
 #include "allocations.hpp"
+#include "documents.hpp"
 #include "holders.hpp"
 #include "report.hpp"
 
@@ -372,9 +373,11 @@ int main(int count, char** arguments) {
     measure_held<held_blocks>("floor");
     measure_threads();
     measure_lists();
+    measure_documents();
 
     results measured;
     benchmark::RunSpecifiedBenchmarks(&measured);
     print(measured, tables, counted);
+    print_documents(measured);
     return 0;
 }

@@ -182,7 +182,7 @@ template <class Value> std::uint64_t sum(const Value& value) {
         return 0;
     } else if constexpr (word<Value>) {
         return digest(word_of(value));
-    } else if constexpr (coded_value<Value>) {
+    } else if constexpr (code<Value>) {
         return digest(static_cast<std::uint32_t>(value));
     } else {
         return digest(value);

@@ -52,7 +52,7 @@ template <class Value> std::string type_name(const peer& to) {
     } else if constexpr (word<Value>) {
         return to.proto ? "uint64" : "xs:unsignedLong";
     } else {
-        static_assert(coded_value<Value> && sizeof(Value) <= sizeof(std::uint32_t));
+        static_assert(code<Value> && sizeof(Value) <= sizeof(std::uint32_t));
         return to.proto ? "uint32" : "xs:unsignedInt";
     }
 }

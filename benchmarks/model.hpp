@@ -22,18 +22,20 @@
 namespace kivo::benchmarks {
 
 using erp::v12::layout::amount_structure;
-using erp::v12::layout::coded_value;
 using erp::v12::layout::for_each_field;
 using erp::v12::layout::group;
 using erp::v12::layout::is_list;
 using erp::v12::layout::is_optional;
-
 using erp::v12::layout::is_variant;
 
 /// A base value, a structure around one, or a number of that size.
 template <class Value>
 concept word = !group<Value> && !is_optional<Value> && !is_variant<Value> &&
                std::is_trivially_copyable_v<Value> && sizeof(Value) == sizeof(std::uint64_t);
+
+/// A code, or a number that is none of those.
+template <class Value>
+concept code = (std::is_enum_v<Value> || std::unsigned_integral<Value>)&&!word<Value>;
 
 template <word Value> std::uint64_t word_of(const Value& value) {
     std::uint64_t result = 0;

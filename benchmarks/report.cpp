@@ -21,29 +21,6 @@ std::string number_text(const char* format, double value) {
     return text;
 }
 
-/// Three digits that count.
-std::string short_text(double value) {
-    return number_text(value < 9.995 ? "%.2f" : value < 99.95 ? "%.1f" : "%.0f", value);
-}
-
-std::string median_text(const numbers& values, double divisor) {
-    return values.empty() ? "" : short_text(median(values) / divisor);
-}
-
-/// The median of the repetitions' ratios, the lowest and the highest.
-std::string ratio_text(const numbers& left, const numbers& right, double factor = 1) {
-    numbers ratios;
-    for (std::size_t index = 0; index < std::min(left.size(), right.size()); ++index) {
-        ratios.push_back(factor * left[index] / right[index]);
-    }
-    if (ratios.empty()) {
-        return "";
-    }
-    const auto [lowest, highest] = std::minmax_element(ratios.begin(), ratios.end());
-    return short_text(median(ratios)) + " (" + short_text(*lowest) + "–" + short_text(*highest) +
-           ")";
-}
-
 void print_row(const std::vector<std::string>& cells) {
     for (const std::string& cell : cells) {
         std::printf("| %s ", cell.c_str());
@@ -58,6 +35,32 @@ void print_head(const std::string& title, const std::vector<std::string>& cells)
 }
 
 } // namespace
+
+std::string short_text(double value) {
+    return number_text(value < 9.995 ? "%.2f" : value < 99.95 ? "%.1f" : "%.0f", value);
+}
+
+std::string median_text(const numbers& values, double divisor) {
+    return values.empty() ? "" : short_text(median(values) / divisor);
+}
+
+std::string ratio_text(const numbers& left, const numbers& right, double factor) {
+    numbers ratios;
+    for (std::size_t index = 0; index < std::min(left.size(), right.size()); ++index) {
+        ratios.push_back(factor * left[index] / right[index]);
+    }
+    if (ratios.empty()) {
+        return "";
+    }
+    const auto [lowest, highest] = std::minmax_element(ratios.begin(), ratios.end());
+    return short_text(median(ratios)) + " (" + short_text(*lowest) + "–" + short_text(*highest) +
+           ")";
+}
+
+void print_table(const std::string& title, const rows& table) {
+    print_head(title, table.front());
+    std::for_each(table.begin() + 1, table.end(), print_row);
+}
 
 void results::ReportRuns(const std::vector<Run>& runs) {
     ConsoleReporter::ReportRuns(runs);

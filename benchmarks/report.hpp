@@ -28,6 +28,18 @@ private:
     std::map<std::string, std::vector<double>> times_;
 };
 
+/// Three digits that count.
+std::string short_text(double value);
+/// The median of the repetitions; without any, nothing.
+std::string median_text(const std::vector<double>& values, double divisor);
+/// The median of the repetitions' ratios, the lowest and the highest; without any, nothing.
+std::string ratio_text(const std::vector<double>& left, const std::vector<double>& right,
+                       double factor = 1);
+
+/// The rows of a table; the first is its head.
+using rows = std::vector<std::vector<std::string>>;
+void print_table(const std::string& title, const rows& table);
+
 /// The names under which operations and holders are measured, in the order of the tables.
 struct names {
     std::vector<std::string> operations;
