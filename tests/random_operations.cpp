@@ -260,7 +260,8 @@ private:
             groups.empty() || roll(2) == 0 ? roll(model.parts.size()) : groups[roll(groups.size())];
         for_each_field<Value>([&](const auto& field, std::size_t index) {
             if (index == wanted) {
-                story_ += std::string(" ") + field.setter_name;
+                story_ += ' ';
+                story_ += field.setter_name;
                 auto inner = (value.*field.get)();
                 change(inner, model.parts[index]);
                 (value.*field.set)(inner);

@@ -33,10 +33,10 @@ inline constexpr bool copy_never_throws =
 template <class Class> inline constexpr bool copy_never_throws = detail::copy_never_throws<Class>;
 
 /// A getter ends the process when it fails.
-template <class Class> constexpr bool getter_never_throws(std::string_view element) {
+template <class Class> constexpr bool getter_never_throws(std::string_view setter_name) {
     using namespace erp::v12::fiscal;
     return detail::is_one_of<Class, sequencia_cred_pres, sequencia_ibs_cbs> ||
-           (std::is_same_v<Class, grupo_reducao_ad_rem> && element == "pRedAdRem");
+           (std::is_same_v<Class, grupo_reducao_ad_rem> && setter_name == "set_percentual_reducao");
 }
 
 /// The setters of a class end the process when they fail.
