@@ -286,9 +286,9 @@ public:
 
     /// What was found, in the order of the document.
     std::vector<fault> faults() && {
-        std::stable_sort(
-            found_.begin(), found_.end(),
-            [](const placed_fault& left, const placed_fault& right) { return left.at < right.at; });
+        std::sort(found_.begin(), found_.end(), [](const auto& left, const auto& right) {
+            return std::pair(left.at, left.number) < std::pair(right.at, right.number);
+        });
         std::vector<fault> result;
         for (placed_fault& placed : found_) {
             result.push_back(std::move(placed.what));
@@ -299,6 +299,7 @@ public:
 private:
     struct placed_fault {
         const node* at;
+        std::size_t number; // in the order of the check
         fault what;
     };
     /// A child of a group, with its rule.
@@ -322,7 +323,8 @@ private:
         return (*path_)(element);
     }
     void add(fault::kind kind, const node& at, std::string demanded) {
-        found_.push_back({&at, {kind, path_of(at), std::string(at.text), std::move(demanded)}});
+        found_.push_back(
+            {&at, found_.size(), {kind, path_of(at), std::string(at.text), std::move(demanded)}});
     }
     void add_unknown(const node& element, const std::string& where) {
         const bool attribute = element.name.is_attribute();
@@ -333,8 +335,9 @@ private:
         std::string path = path_of(group);
         path += path.empty() || name.empty() ? "" : "/";
         path += name;
-        found_.push_back(
-            {&group, {fault::kind::missing, std::move(path), {}, std::move(demanded)}});
+        found_.push_back({&group,
+                          found_.size(),
+                          {fault::kind::missing, std::move(path), {}, std::move(demanded)}});
     }
 
     const node& root_;
