@@ -17,7 +17,7 @@ git apply "$work/examples.diff"
 quietly() { "$@" > "$work/log" 2>&1 || { tail -n 50 "$work/log" >&2 && exit 1; }; }
 export CCACHE_BASEDIR=$work/tree CCACHE_NOHASHDIR=1
 quietly cmake -S . -B build -G Ninja "-DCMAKE_CXX_COMPILER=$compiler" -DKIVO_BUILD_LAYOUT=ON \
-    -DKIVO_BUILD_EXAMPLES=ON -DKIVO_BUILD_TESTS=ON \
+    -DKIVO_BUILD_EXAMPLES=ON -DKIVO_BUILD_TOOLS=ON -DKIVO_BUILD_TESTS=ON \
     -DCMAKE_CXX_FLAGS="-O0 -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror"
 quietly cmake --build build --target facts invoice_tests
 
