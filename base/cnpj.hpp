@@ -63,6 +63,7 @@ template <> struct chars_converter<erp::v12::cnpj> {
 template <> struct value_converter<erp::v12::cnpj> {
     using cnpj = erp::v12::cnpj;
 
+    /// Whether `make_chars` gives back exactly this text, if it is one of a value: always.
     static constexpr bool gives_back(std::string_view) noexcept { return true; }
 
     static conversion_result make_value(cnpj& value, const char* text,

@@ -54,6 +54,7 @@ template <> struct chars_converter<erp::v12::cpf> {
 template <> struct value_converter<erp::v12::cpf> {
     using cpf = erp::v12::cpf;
 
+    /// Whether `make_chars` gives back exactly this text, if it is one of a value: always.
     static constexpr bool gives_back(std::string_view) noexcept { return true; }
 
     static conversion_result make_value(cpf& value, const char* text, std::size_t length) noexcept {

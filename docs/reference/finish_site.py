@@ -15,7 +15,8 @@ from pathlib import Path
 from facts import (TITLES, last_name, read_elements, read_places, read_subsystems,
                    without_field)
 
-PORTUGUESE = "md_docs_guia.html"
+GUIDE_IN_PORTUGUESE = "md_docs_guia"
+PORTUGUESE = {f"{GUIDE_IN_PORTUGUESE}.html", "md_LEIAME.html"}
 INDEX = re.compile(r"^  \['(\w+?)_\d+',(.*)\],?$", re.M)
 LETTERS = re.compile(r"^  0: \"(.*)\"", re.M)
 
@@ -72,7 +73,7 @@ def add_to_menu(site, subsystems):
 
     own = ",".join([
         entry("Guide", "md_docs_guide"),
-        entry("Guia (em português)", PORTUGUESE.removesuffix(".html")),
+        entry("Guia (em português)", GUIDE_IN_PORTUGUESE),
         entry("Subsystems", "subsystems",
               [entry(TITLES[name], f"subsystem_{name}") for name in subsystems]),
         entry("Elements of the layout", "elements"),
@@ -86,7 +87,7 @@ def add_to_menu(site, subsystems):
 
 def finish_pages(site):
     for page in site.glob("*.html"):
-        language = "pt-BR" if page.name == PORTUGUESE else "en"
+        language = "pt-BR" if page.name in PORTUGUESE else "en"
         html = page.read_text().replace("<html xmlns=", f'<html lang="{language}" xmlns=', 1)
         page.write_text(with_breaks(html))
 
@@ -111,8 +112,9 @@ def faults(site, folder):
             for word in (place.plain_name, place.plain_name.split("_")[-1]):
                 if word[0] in letters and not any(f"'{place.getter}'" in entry for entry in found(word)):
                     yield f"the search for {word} does not find {place.getter}"
-    if 'lang="pt-BR"' not in (site / PORTUGUESE).read_text():
-        yield f"{PORTUGUESE} does not say its language"
+    for page in PORTUGUESE:
+        if 'lang="pt-BR"' not in (site / page).read_text():
+            yield f"{page} does not say its language"
 
 
 if __name__ == "__main__":

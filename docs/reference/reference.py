@@ -213,8 +213,8 @@ def filtered_page(path):
     text = path.read_text()
     if path.name == "coverage.md":  # its widest tables
         text = re.sub(r"\n(\| Element \| Class (?:.*\n)+)", r'\n<div class="fields">\n\n\1\n</div>\n', text)
-    if path.name == "guia.md":
-        text = text.replace("# Guia\n", "# Guia (em português)\n", 1)
+    if path.name in ("guia.md", "LEIAME.md"):
+        text = re.sub(r"^# (.*)", r"# \1 (em português)", text, count=1)
     for line in text.splitlines():
         code ^= line.startswith("```")
         heading = re.match(r"##+ (.*)", line)
