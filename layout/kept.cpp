@@ -8,6 +8,7 @@
 #include <string>
 #include <tuple>
 #include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 namespace kivo::erp::v12::layout {
@@ -36,22 +37,21 @@ public:
              const element_rule& rule) {
         std::vector<part> parts;
         std::unordered_map<std::string_view, std::uint32_t> counts;
-        std::size_t met = 0; // kept elements that are parts
+        std::unordered_set<const path_tree*> met; // of what is kept, what is written, too
         if (written != nullptr) {
             for (const node& child : children(*written)) {
                 const element_rule* const own = rule.child(child.name);
                 const std::uint32_t number = ++counts[child.name];
                 const path_tree* const beside = kept.find(child.name, number);
-                met += beside == nullptr ? 0 : 1;
+                if (beside != nullptr) {
+                    met.insert(beside);
+                }
                 parts.push_back({own == nullptr ? 0 : own->position(), number, &child, beside});
             }
         }
-        if (met != kept.inner.size()) {
+        if (met.size() != kept.inner.size()) {
             for (const path_tree& element : kept.inner) {
-                const bool is_written =
-                    std::any_of(parts.begin(), parts.end(),
-                                [&](const part& each) { return each.kept == &element; });
-                if (!is_written) {
+                if (!met.contains(&element)) {
                     parts.push_back(checked(element, known, rule, counts));
                 }
             }
@@ -124,7 +124,7 @@ private:
 } // namespace
 
 tree with_kept(tree written, const std::vector<placed_text>& kept, const table& known) {
-    path_tree all{written.root().name, 1, {}, {}, {}};
+    path_tree all{written.root().name};
     for (const placed_text& placed : kept) {
         all.add(placed);
     }

@@ -38,15 +38,6 @@ step take_step(const placed_text& placed, std::string_view& rest) {
     return result;
 }
 
-template <class Elements>
-auto* find_in(Elements& elements, std::string_view name, std::uint32_t number) {
-    // texts come in their order: what is looked for was usually named last
-    const auto found = std::find_if(elements.rbegin(), elements.rend(), [&](const auto& element) {
-        return element.number == number && element.name == name;
-    });
-    return found == elements.rend() ? nullptr : &*found;
-}
-
 } // namespace
 
 void path_tree::add(const placed_text& placed) {
@@ -54,12 +45,14 @@ void path_tree::add(const placed_text& placed) {
     std::string_view rest = placed.path;
     do {
         const step next = take_step(placed, rest);
-        path_tree* known = find_in(element->inner, next.name, next.number);
-        if (known == nullptr) {
-            known = &element->inner.emplace_back();
-            *known = {next.name, next.number, placed.path, {}, {}};
+        path_tree*& known_inner = element->known[{next.name, next.number}];
+        if (known_inner == nullptr) {
+            known_inner = &element->inner.emplace_back();
+            known_inner->name = next.name;
+            known_inner->number = next.number;
+            known_inner->path = placed.path;
         }
-        element = known;
+        element = known_inner;
     } while (!rest.empty());
     if (element->text) {
         refuse(placed, "named twice");
@@ -68,7 +61,8 @@ void path_tree::add(const placed_text& placed) {
 }
 
 const path_tree* path_tree::find(std::string_view wanted, std::uint32_t wanted_number) const {
-    return find_in(inner, wanted, wanted_number);
+    const auto found = known.find({wanted, wanted_number});
+    return found == known.end() ? nullptr : found->second;
 }
 
 } // namespace kivo::erp::v12::layout

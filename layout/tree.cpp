@@ -152,7 +152,7 @@ void add_to(tree& result, const path_tree& element) {
 
 tree tree_of(std::string_view root, const std::vector<placed_text>& texts) {
     tree result;
-    path_tree all{root, 1, {}, {}, {}};
+    path_tree all{root};
     for (const placed_text& placed : texts) {
         all.add(placed);
     }
