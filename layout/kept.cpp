@@ -123,18 +123,17 @@ private:
 
 } // namespace
 
-tree with_kept(tree written, const std::vector<placed_text>& kept, const table& known) {
+void add_with_kept(tree& out, tree written, const std::vector<placed_text>& kept,
+                   const table& known) {
     path_tree all{written.root().name};
     for (const placed_text& placed : kept) {
         all.add(placed);
     }
-    tree result;
-    result.expect(written.root().size + kept.size());
-    result.open(written.root().name);
-    merger(result).add(&written.root(), all, &known, infnfe_rule());
-    result.close();
-    result.adopt_texts(written);
-    return result;
+    out.expect(out.size() + written.root().size + kept.size());
+    out.open(written.root().name);
+    merger(out).add(&written.root(), all, &known, infnfe_rule());
+    out.close();
+    out.adopt_texts(written);
 }
 
 } // namespace kivo::erp::v12::layout

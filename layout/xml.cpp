@@ -46,8 +46,16 @@ void add_beside(const node& parent, const node& invoice, path_teller& path,
     }
 }
 
-/// Writes the infNFe element of an invoice into a document.
-void write_invoice(tree& out, const fiscal::nota_fiscal& invoice, const outside_texts& outside) {
+/// Adds the infNFe element of an invoice to a document, with what is kept in its places.
+void add_invoice(tree& out, const fiscal::nota_fiscal& invoice, const outside_texts& outside,
+                 const std::vector<placed_text>& kept) {
+    if (!kept.empty()) {
+        tree written;
+        add_invoice(written, invoice, outside, {});
+        add_with_kept(out, std::move(written), kept, invoice_table());
+        return;
+    }
+    out.expect(1024); // elements of an invoice with a few items
     out.open("infNFe");
     writer(out, outside).write_whole(invoice_table(), &invoice);
     out.close();
@@ -102,24 +110,16 @@ tree parse_file(const std::string& path) { return from_file(path, parse_xml); }
 tree write_tree(const fiscal::nota_fiscal& invoice, const outside_texts& outside,
                 const std::vector<placed_text>& kept) {
     tree result;
-    result.expect(1024); // elements of an invoice with a few items
-    write_invoice(result, invoice, outside);
-    return kept.empty() ? std::move(result) : with_kept(std::move(result), kept, invoice_table());
+    add_invoice(result, invoice, outside, kept);
+    return result;
 }
 
 std::string write_xml(const fiscal::nota_fiscal& invoice, const outside_texts& outside,
                       const std::vector<placed_text>& kept) {
     tree document;
-    document.expect(1024);
     document.open("NFe");
     document.add("@xmlns", "http://www.portalfiscal.inf.br/nfe");
-    tree whole; // keeps the texts
-    if (kept.empty()) {
-        write_invoice(document, invoice, outside);
-    } else {
-        whole = write_tree(invoice, outside, kept);
-        document.add(whole.root());
-    }
+    add_invoice(document, invoice, outside, kept);
     document.close();
     return xml_text(document.root());
 }
