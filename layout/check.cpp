@@ -332,9 +332,7 @@ private:
             (attribute ? "no such attribute " : "no such element ") + where);
     }
     void add_missing(const node& group, std::string_view name, std::string demanded) {
-        std::string path = path_of(group);
-        path += path.empty() || name.empty() ? "" : "/";
-        path += name;
+        std::string path = name.empty() ? path_of(group) : path_below(path_of(group), name);
         found_.push_back({&group,
                           found_.size(),
                           {fault::kind::missing, std::move(path), {}, std::move(demanded)}});

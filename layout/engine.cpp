@@ -3,7 +3,6 @@
 #include <layout/elements.hpp>
 
 #include <algorithm>
-#include <charconv>
 
 namespace kivo::erp::v12::layout {
 
@@ -268,9 +267,7 @@ void reader::tell_refused(const node& element, std::string expected) {
 }
 
 void reader::tell_added(const node& parent, std::string_view path, std::string_view text) {
-    std::string whole = path_(parent);
-    whole += whole.empty() ? "" : "/";
-    told_->added.push_back({whole += path, {}, std::string(text)});
+    told_->added.push_back({path_below(path_(parent), path), {}, std::string(text)});
 }
 
 void reader::tell_inner(const node& element) {
@@ -284,8 +281,8 @@ void reader::tell_moved(const node& element, std::string to) {
 }
 
 void reader::tell_renumbered(const node& element, std::size_t number) {
-    const std::string path = path_(element);
-    tell_moved(element, path.substr(0, path.rfind('[')) + '[' + std::to_string(number) + ']');
+    tell_moved(element,
+               path_below(path_(*(&element - element.up)), with_number(element.name, number)));
     renumbered_[&element] = static_cast<std::uint32_t>(number);
 }
 
@@ -299,8 +296,7 @@ const element_rule* reader::rule_of(const node& element) const {
 
 void reader::tell_text_in_group(const node& group) {
     if (!group.text.empty()) {
-        const std::string path = path_(group);
-        told_->unknown.push_back(path + (path.empty() ? "" : "/") + "text()");
+        told_->unknown.push_back(path_below(path_(group), "text()"));
     }
 }
 
@@ -335,24 +331,6 @@ void reader::tell_if_moved(const node& parent, const node& element) {
     }
 }
 
-namespace {
-
-/// The number at the end of a path; 0 where there is none.
-std::uint32_t last_number(std::string_view path) {
-    std::uint32_t number = 0;
-    if (path.ends_with(']')) {
-        const std::string_view digits = path.substr(path.rfind('[') + 1);
-        std::from_chars(digits.data(), digits.data() + digits.size(), number);
-    }
-    return number;
-}
-
-std::string with_number(std::string_view name, std::uint32_t number) {
-    return number == 0 ? std::string(name) : std::string(name) + '[' + std::to_string(number) + ']';
-}
-
-} // namespace
-
 std::string reader::written_path(const node& element) {
     if (&element == root_) {
         return {};
@@ -363,11 +341,9 @@ std::string reader::written_path(const node& element) {
     if (other != renumbered_.end()) {
         number = other->second;
     } else if (rule != nullptr && rule->most() > 1) {
-        number = last_number(path_(element));
+        number = path_.number_of(element);
     }
-    std::string path = written_path(*(&element - element.up));
-    path += path.empty() ? "" : "/";
-    return path += with_number(element.name, number);
+    return path_below(written_path(*(&element - element.up)), with_number(element.name, number));
 }
 
 const table* reader::table_of(const node& element) const {
@@ -405,7 +381,7 @@ void reader::tell_no_field(const node& element) {
     const element_rule* const rule = rule_of(element);
     if (rule == nullptr) {
         (rule_ == nullptr ? told_->without_field : told_->unknown).push_back(std::move(path));
-    } else if (last_number(path) > rule->most()) {
+    } else if (path_.number_of(element) > rule->most()) {
         tell_no_room(element);
     } else {
         if (!element.name.is_attribute()) {
@@ -423,19 +399,19 @@ void reader::keep(const node& element, const element_rule& rule, const std::stri
     } else if (!element.text.empty()) {
         kept_->push_back({path, std::string(element.text)});
     }
-    path_teller below(element);
     for (const node& child : children(element)) {
         const element_rule* const inner = rule.child(child.name);
-        const std::string name = below(child);
+        const std::uint32_t number = path_.number_of(child);
         if (inner == nullptr) {
             told_->unknown.push_back(path_(child));
-        } else if (last_number(name) > inner->most()) {
+        } else if (number > inner->most()) {
             tell_no_room(child);
         } else {
             if (!child.name.is_attribute()) {
                 tell_if_moved(element, child);
             }
-            keep(child, *inner, path + '/' + (inner->most() > 1 ? name : std::string(child.name)));
+            keep(child, *inner,
+                 path_below(path, with_number(child.name, inner->most() > 1 ? number : 0)));
         }
     }
     if (kept_->size() == kept) {

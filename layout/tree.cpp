@@ -65,26 +65,26 @@ std::string_view tree::keep(std::string_view text) {
     return {kept, text.size()};
 }
 
-namespace {
-
-std::string numbered(std::string_view name, std::size_t number) {
-    return std::string(name) + '[' + std::to_string(number) + ']';
+std::string path_below(std::string path, std::string_view name) {
+    path += path.empty() ? "" : "/";
+    return path += name;
 }
 
-} // namespace
+std::string with_number(std::string_view name, std::size_t number) {
+    std::string result(name);
+    return number == 0 ? result : result + '[' + std::to_string(number) + ']';
+}
 
 std::string path_teller::operator()(const node& element) {
     if (&element == root_) {
         return {};
     }
-    const node& parent = *(&element - element.up);
-    std::string path = (*this)(parent);
-    path += path.empty() ? "" : "/";
-    const std::uint32_t number = number_of(parent, element);
-    return path += number == 0 ? std::string(element.name) : numbered(element.name, number);
+    return path_below((*this)(*(&element - element.up)),
+                      with_number(element.name, number_of(element)));
 }
 
-std::uint32_t path_teller::number_of(const node& parent, const node& element) {
+std::uint32_t path_teller::number_of(const node& element) {
+    const node& parent = *(&element - element.up);
     std::uint32_t looked_at = 0;
     std::uint32_t number = 0;
     std::uint32_t total = 0;
@@ -258,9 +258,7 @@ void compare(const node* left, const node* right, const std::string& path,
             const node* const right_child = index < name.right.size() ? name.right[index] : nullptr;
             const std::string_view own = (left_child != nullptr ? left_child : right_child)->name;
             compare(left_child, right_child,
-                    path + (path.empty() ? "" : "/") +
-                        (total > 1 ? numbered(own, index + 1) : std::string(own)),
-                    result);
+                    path_below(path, with_number(own, total > 1 ? index + 1 : 0)), result);
         }
     }
 }

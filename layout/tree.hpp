@@ -210,17 +210,23 @@ struct placed_text {
     bool operator==(const placed_text&) const = default;
 };
 
+/// A path, which may be that of the root, and a name below it.
+std::string path_below(std::string path, std::string_view name);
+
+/// A name with a number in brackets; alone where the number is 0.
+std::string with_number(std::string_view name, std::size_t number);
+
 /// Tells the paths of elements below a root.
 class path_teller {
 public:
     explicit path_teller(const node& root) : root_(&root) {}
     std::string operator()(const node& element);
+    /// The number of an element among those of its name; 0 where it is the only one.
+    std::uint32_t number_of(const node& element);
 
 private:
     static constexpr std::uint32_t few = 64; // elements that are counted anew for each path
 
-    /// The number among those of its name; 0 where it is the only one.
-    std::uint32_t number_of(const node& parent, const node& element);
     std::uint32_t known_number_of(const node& parent, const node& element);
 
     const node* root_;

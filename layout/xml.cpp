@@ -30,8 +30,7 @@ const node& only_child(const node& parent, const element_name& name) {
 void add_beside(const node& parent, const node& invoice, path_teller& path,
                 std::vector<std::string>& result) {
     if (!parent.text.empty()) {
-        const std::string own = path(parent);
-        result.push_back(own + (own.empty() ? "" : "/") + "text()");
+        result.push_back(path_below(path(parent), "text()"));
     }
     for (const node& child : children(parent)) {
         if (&child == &invoice) {
