@@ -41,20 +41,14 @@ bool has_key_characters(std::string_view text) {
     return true;
 }
 
-const node* at_path(const node& parent, std::string_view path) {
-    const std::size_t slash = path.find('/');
-    const node* const child = child_named(parent, path.substr(0, slash));
-    return child == nullptr || slash == path.npos ? child : at_path(*child, path.substr(slash + 1));
-}
-
 /// Tells where a part of the key is not the text of its element.
 void compare(const key_part& part, std::string_view key, const node& infnfe,
              std::vector<key_fault>& faults) {
     std::string element = part.element;
-    const node* found = at_path(infnfe, element);
+    const node* found = child_at(infnfe, element);
     if (found == nullptr && element == "emit/CNPJ") {
         element = "emit/CPF";
-        found = at_path(infnfe, element);
+        found = child_at(infnfe, element);
     }
     if (found == nullptr) {
         return;
@@ -73,8 +67,7 @@ void compare(const key_part& part, std::string_view key, const node& infnfe,
 } // namespace
 
 std::string_view key_of(const node& infnfe) {
-    const node* const id = child_named(infnfe, "@Id");
-    std::string_view key = id == nullptr ? std::string_view() : id->text;
+    std::string_view key = text_at(infnfe, "@Id");
     key.remove_prefix(key.starts_with("NFe") ? 3 : 0);
     return key;
 }

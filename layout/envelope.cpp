@@ -17,13 +17,6 @@ std::size_t count_named(const node& parent, const element_name& name) {
         all.begin(), all.end(), [&](const node& child) { return child.name == name; }));
 }
 
-/// The key for which an answer is; empty where it tells none.
-std::string_view answered_key(const node& protnfe) {
-    const node* const answer = child_named(protnfe, "infProt");
-    const node* const key = answer == nullptr ? nullptr : child_named(*answer, "chNFe");
-    return key == nullptr ? std::string_view() : key->text;
-}
-
 std::string_view key_in(const node& nfe) {
     const node* const infnfe = child_named(nfe, "infNFe");
     return infnfe == nullptr ? std::string_view() : key_of(*infnfe);
@@ -57,7 +50,7 @@ envelope open_envelope(const tree& document) {
     }
     std::unordered_map<std::string_view, const node*> by_key;
     for (const node* const answer : found.answers) {
-        by_key.emplace(answered_key(*answer), answer);
+        by_key.emplace(text_at(*answer, "infProt/chNFe"), answer);
     }
     std::unordered_set<const node*> taken;
     for (enveloped_invoice& invoice : found.invoices) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
 
 namespace kivo::erp::v12::layout {
 
@@ -12,14 +13,9 @@ bool is_one_of(std::string_view text, const std::array<std::string_view, count>&
     return std::find(texts.begin(), texts.end(), text) != texts.end();
 }
 
-/// The text of the element directly in another; empty where either is not there.
-std::string text_in(const node* parent, const element_name& name) {
-    const node* const found = parent == nullptr ? nullptr : child_named(*parent, name);
-    return found == nullptr ? std::string() : std::string(found->text);
-}
-
-const node* in(const node* parent, const element_name& name) {
-    return parent == nullptr ? nullptr : child_named(*parent, name);
+/// The text of the element at a path, as a string of its own.
+std::string string_at(const node& parent, std::string_view path) {
+    return std::string(text_at(parent, path));
 }
 
 } // namespace
@@ -39,9 +35,11 @@ standing standing_of(std::string_view status) {
 }
 
 protocol read_protocol(const node& protnfe) {
-    const node* const answer = in(&protnfe, "infProt");
-    return {text_in(answer, "chNFe"),   text_in(answer, "nProt"),    text_in(answer, "cStat"),
-            text_in(answer, "xMotivo"), text_in(answer, "dhRecbto"), text_in(answer, "tpAmb")};
+    const auto told = [&](const char* name) {
+        return string_at(protnfe, std::string("infProt/") + name);
+    };
+    return {told("chNFe"),   told("nProt"),    told("cStat"),
+            told("xMotivo"), told("dhRecbto"), told("tpAmb")};
 }
 
 bool event::is_registered() const {
@@ -54,21 +52,25 @@ bool event::is_correction() const { return type == "110110"; }
 
 event read_event(const node& document) {
     const bool answered = document.name == "procEventoNFe";
-    const node* const told = in(answered ? in(&document, "evento") : &document, "infEvento");
-    const node* const detail = in(told, "detEvento");
-    const node* const answer = answered ? in(in(&document, "retEvento"), "infEvento") : nullptr;
-    return {.key = text_in(told, "chNFe"),
-            .type = text_in(told, "tpEvento"),
-            .sequence = text_in(told, "nSeqEvento"),
-            .name = text_in(detail, "descEvento"),
-            .time = text_in(told, "dhEvento"),
-            .environment = text_in(told, "tpAmb"),
-            .justification = text_in(detail, "xJust"),
-            .correction = text_in(detail, "xCorrecao"),
-            .status = text_in(answer, "cStat"),
-            .reason = text_in(answer, "xMotivo"),
-            .number = text_in(answer, "nProt"),
-            .registered = text_in(answer, "dhRegEvento")};
+    const auto told = [&](const char* path) {
+        return string_at(document, std::string(answered ? "evento/" : "") + "infEvento/" + path);
+    };
+    const auto answer = [&](const char* name) {
+        return answered ? string_at(document, std::string("retEvento/infEvento/") + name)
+                        : std::string();
+    };
+    return {.key = told("chNFe"),
+            .type = told("tpEvento"),
+            .sequence = told("nSeqEvento"),
+            .name = told("detEvento/descEvento"),
+            .time = told("dhEvento"),
+            .environment = told("tpAmb"),
+            .justification = told("detEvento/xJust"),
+            .correction = told("detEvento/xCorrecao"),
+            .status = answer("cStat"),
+            .reason = answer("xMotivo"),
+            .number = answer("nProt"),
+            .registered = answer("dhRegEvento")};
 }
 
 } // namespace kivo::erp::v12::layout

@@ -19,6 +19,18 @@ const node* child_named(const node& parent, const element_name& name) {
     return nullptr;
 }
 
+const node* child_at(const node& parent, std::string_view path) {
+    const std::size_t slash = path.find('/');
+    const node* const child = child_named(parent, path.substr(0, slash));
+    return child == nullptr || slash == path.npos ? child
+                                                  : child_at(*child, path.substr(slash + 1));
+}
+
+std::string_view text_at(const node& parent, std::string_view path) {
+    const node* const found = child_at(parent, path);
+    return found == nullptr ? std::string_view() : found->text;
+}
+
 void tree::close_unless_empty() {
     const node& closed = nodes_[open_];
     if (nodes_.size() - open_ > 1 || !closed.text.empty()) {

@@ -136,6 +136,13 @@ private:
 /// The first of the elements directly in another that has this name; null when there is none.
 const node* child_named(const node& parent, const element_name& name);
 
+/// The element at a path without numbers, below another: `emit/CNPJ`, the first of each name; null
+/// when there is none.
+const node* child_at(const node& parent, std::string_view path);
+
+/// The text of the element at a path; empty when there is none.
+std::string_view text_at(const node& parent, std::string_view path);
+
 /// A document. It is built from the front to the back, and owns its texts.
 class tree {
 public:

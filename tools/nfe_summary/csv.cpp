@@ -97,11 +97,8 @@ std::string csv_row(const layout::node& infnfe, const fiscal::nota_fiscal& invoi
     const auto ibs_cbs = totals.get_total_ibs_cbs();
     const auto ibs = ibs_cbs ? ibs_cbs->get_total_grupo_ibs() : std::nullopt;
     const auto cbs = ibs_cbs ? ibs_cbs->get_total_grupo_cbs() : std::nullopt;
-    const layout::node* const ide = layout::child_named(infnfe, "ide");
     const auto told = [&](const char* element) {
-        const layout::node* const found =
-            ide == nullptr ? nullptr : layout::child_named(*ide, element);
-        return found == nullptr ? std::string_view() : found->text;
+        return layout::text_at(infnfe, std::string("ide/") + element);
     };
     return line()
         .text(told("mod"))

@@ -44,18 +44,10 @@ nature nature_of(const fiscal::nota_fiscal& invoice) {
                : nature::regular;
 }
 
-std::string text_at(const layout::node& parent, const layout::element_name& group,
-                    const layout::element_name& element) {
-    const layout::node* const inner = layout::child_named(parent, group);
-    const layout::node* const found =
-        inner == nullptr ? nullptr : layout::child_named(*inner, element);
-    return found == nullptr ? std::string() : std::string(found->text);
-}
-
 /// CNPJ or CPF as the document has them: not every one has a field.
-std::string id_in(const layout::node& infnfe, const layout::element_name& group) {
+std::string id_in(const layout::node& infnfe, const std::string& group) {
     for (const char* const name : {"CNPJ", "CPF", "idEstrangeiro"}) {
-        std::string id = text_at(infnfe, group, name);
+        std::string id(layout::text_at(infnfe, group + '/' + name));
         if (!id.empty()) {
             return id;
         }
@@ -112,9 +104,9 @@ surveyed survey_invoice(const layout::tree& tree, survey_detail detail) {
 
     surveyed result;
     result.key = layout::key_of(infnfe);
-    result.environment = text_at(infnfe, "ide", "tpAmb");
+    result.environment = layout::text_at(infnfe, "ide/tpAmb");
     result.number = fmt::to_string(invoice.get_numero());
-    result.issued = text_at(infnfe, "ide", "dhEmi");
+    result.issued = layout::text_at(infnfe, "ide/dhEmi");
     result.issuer = {id_in(infnfe, "emit"), invoice.get_emitente().get_razao_social(),
                      invoice.get_emitente().get_endereco().get_uf()};
     result.recipient = {id_in(infnfe, "dest"),
