@@ -22,12 +22,15 @@ namespace kivo::erp::v12::layout {
 /// takes less than a call to find their end.
 inline std::string_view text_in_buffer(const char* text) {
     if constexpr (std::endian::native == std::endian::little) {
-        std::uint64_t first = 0;
-        std::memcpy(&first, text, sizeof first);
-        const std::uint64_t zeros =
-            (first - 0x0101010101010101) & ~first & std::uint64_t{0x8080808080808080};
-        if (zeros != 0) {
-            return {text, static_cast<std::size_t>(std::countr_zero(zeros)) / 8};
+        for (const char* at = text;; at += sizeof(std::uint64_t)) {
+            std::uint64_t next = 0;
+            std::memcpy(&next, at, sizeof next);
+            const std::uint64_t zeros =
+                (next - 0x0101010101010101) & ~next & std::uint64_t{0x8080808080808080};
+            if (zeros != 0) {
+                return {text, static_cast<std::size_t>(at - text) +
+                                  static_cast<std::size_t>(std::countr_zero(zeros)) / 8};
+            }
         }
     }
     return text;
