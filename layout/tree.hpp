@@ -68,6 +68,19 @@ public:
     constexpr operator std::string_view() const { return text_; } // NOLINT: it is a text
     constexpr bool is_attribute() const { return text_.starts_with('@'); }
 
+    /// Puts the name at a place with room for eight characters more; answers its end.
+    char* put(char* place) const {
+        if constexpr (std::endian::native == std::endian::little) {
+            std::memcpy(place, &first_, sizeof first_);
+            if (text_.size() > sizeof first_) {
+                text_.copy(place + sizeof first_, text_.npos, sizeof first_);
+            }
+        } else {
+            text_.copy(place, text_.size());
+        }
+        return place + text_.size();
+    }
+
     constexpr bool operator==(const element_name& other) const { // most names have few characters
         return first_ == other.first_ && text_.size() == other.text_.size() &&
                (text_.size() <= sizeof first_ ||

@@ -393,7 +393,7 @@ public:
         const node* const end = &element + element.size;
         make_room(3 * element.name.text().size() + longest * element.text.size());
         put('<');
-        put(element.name);
+        put_name(element.name);
         for (; inner != end && inner->name.is_attribute(); ++inner) {
             make_room(inner->name.text().size() + longest * inner->text.size());
             put(' ');
@@ -409,7 +409,7 @@ public:
         }
         make_room(element.name.text().size());
         put("</");
-        put(element.name);
+        put_name(element.name);
         put('>');
     }
 
@@ -432,6 +432,10 @@ private:
     void put(std::string_view part) {
         std::memcpy(text_.data() + used_, part.data(), part.size());
         used_ += part.size();
+    }
+
+    void put_name(const element_name& name) {
+        used_ = static_cast<std::size_t>(name.put(text_.data() + used_) - text_.data());
     }
 
     void put_escaped(std::string_view part, bool attribute) {
