@@ -61,7 +61,7 @@ public:
                     parts.push_back(checked(element, known, rule, written, counts));
                 }
             }
-            std::stable_sort(parts.begin(), parts.end(), [](const part& left, const part& right) {
+            std::sort(parts.begin(), parts.end(), [](const part& left, const part& right) {
                 return std::tie(left.position, left.number) <
                        std::tie(right.position, right.number);
             });
