@@ -56,9 +56,9 @@ public:
                 each.position = own == nullptr ? 0 : own->position();
             }
             counts_by_name counts;
-            for (const path_tree& element : kept.inner) {
-                if (!met.contains(&element)) {
-                    parts.push_back(checked(element, known, rule, written, counts));
+            for (const auto& [name_and_number, element] : kept.known) {
+                if (!met.contains(element)) {
+                    parts.push_back(checked(*element, known, rule, written, counts));
                 }
             }
             std::sort(parts.begin(), parts.end(), [](const part& left, const part& right) {

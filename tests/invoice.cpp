@@ -266,6 +266,8 @@ TEST(kept, goes_to_its_place_or_is_refused_with_a_reason) {
          "</infCpl><obsCont xCampo=\"a\"><xTexto>b</xTexto></obsCont></infAdic>"},
         {{{"infAdic/obsCont[1]/xTexto", "b"}, {"infAdic/obsCont[2]/xTexto", "d"}},
          "</infCpl><obsCont><xTexto>b</xTexto></obsCont><obsCont><xTexto>d</xTexto></obsCont>"},
+        {{{"infAdic/obsCont[2]/xTexto", "d"}, {"infAdic/obsCont[1]/xTexto", "b"}},
+         "</infCpl><obsCont><xTexto>b</xTexto></obsCont><obsCont><xTexto>d</xTexto></obsCont>"},
         {{{"dest/IM", "7"}}, "</IE><IM>7</IM><email>"},
         {{{"compra/xPed", "7"}}, "</infAdic><compra><xPed>7</xPed></compra><infRespTec>"},
         {{{"det[2]/prod/nFCI", "7"}}, "</nItemPed><nFCI>7</nFCI></prod>"},
