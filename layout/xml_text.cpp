@@ -235,12 +235,21 @@ bool is_namespace(std::string_view attribute) {
     return attribute == "xmlns" || attribute.starts_with("xmlns:") || attribute.starts_with("xsi:");
 }
 
+/// Whether names may have prefixes: one is declared.
+bool declares_prefix(std::string_view xml) {
+    std::size_t colon = xml.find(':'); // rarer than any character before it
+    while (colon != xml.npos && !xml.substr(0, colon).ends_with("xmlns")) {
+        colon = xml.find(':', colon + 1);
+    }
+    return colon != xml.npos;
+}
+
 /// Moves a parsed document into a tree. Texts lie in the buffer that was parsed.
 class tree_maker final : public pugi::xml_tree_walker {
 public:
     /// `xml` is the document, and `buffer` where it was parsed.
     tree_maker(tree& result, std::string_view xml, const char* buffer)
-        : result_(&result), xml_(xml), buffer_(buffer), prefixed_(xml.find("xmlns:") != xml.npos) {}
+        : result_(&result), xml_(xml), buffer_(buffer), prefixed_(declares_prefix(xml)) {}
 
     bool for_each(pugi::xml_node& found) override {
         const auto level = static_cast<std::size_t>(depth()); // that of the root is 0
@@ -315,7 +324,7 @@ private:
     tree* result_;
     std::string_view xml_;
     const char* buffer_;
-    bool prefixed_;                           // whether names may have prefixes
+    bool prefixed_;
     std::array<std::size_t, deepest> last_{}; // the last element of each level
     std::vector<piece> pieces_;
 };
