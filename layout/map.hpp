@@ -368,7 +368,7 @@ template <bool Conditional, bool Again, class... Element> struct walk {
     }
 
     template <class Entry> static constexpr auto one() {
-        if constexpr (requires { Entry::even_empty; }) {
+        if constexpr (requires { Entry::name; typename Entry::inner; }) {
             return walk<Conditional, Again, Element..., Entry>::all(typename Entry::inner());
         } else if constexpr (requires { typename Entry::inner; }) {
             return all(typename Entry::inner());
