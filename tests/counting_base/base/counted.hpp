@@ -25,6 +25,7 @@ struct failure {};
 KIVO_SHARED std::vector<event>* log = nullptr; // null: nothing is logged
 KIVO_SHARED std::size_t live = 0;              // values that are not destroyed yet
 KIVO_SHARED std::size_t allowed = std::numeric_limits<std::size_t>::max(); // before a failure
+KIVO_SHARED bool failed = false;               // whether there was one
 
 #undef KIVO_SHARED
 
@@ -40,6 +41,7 @@ inline void note(operation what, std::uint64_t number) {
                                ? moves_may_throw
                                : what != operation::destroy;
     if (may_throw && allowed-- == 0) {
+        failed = true;
         throw failure();
     }
     if (log != nullptr) {
