@@ -6,13 +6,15 @@
 
 namespace kivo::erp::v12::layout {
 
-std::size_t table::find(const element_name& name, std::size_t expected) const {
-    for (std::size_t at = expected; at < names.size(); ++at) {
+std::size_t table::search(const element_name& name, std::size_t expected) const {
+    // the one before the expected, again, comes next to those behind it
+    const std::size_t begin = expected == 0 ? 0 : expected - 1;
+    for (std::size_t at = begin; at < names.size(); ++at) {
         if (names[at].name == name) {
             return at;
         }
     }
-    for (std::size_t at = 0; at < expected; ++at) {
+    for (std::size_t at = 0; at < begin; ++at) {
         if (names[at].name == name) {
             return at;
         }
@@ -29,12 +31,6 @@ bool table::knows_content_of(const node& element) const {
 namespace {
 
 std::uint64_t bit_of(std::size_t entry) { return std::uint64_t{1} << entry; }
-
-bool has_empty_group(const node& parent) {
-    const children content(parent);
-    return std::any_of(content.begin(), content.end(),
-                       [](const node& child) { return child.size == 1 && child.text.empty(); });
-}
 
 /// What a table writes of an object, or one of its entries, below an element without a name.
 template <class Write> tree written_by(const outside_texts& outside, Write write) {
@@ -58,8 +54,10 @@ reader::reader(const node& root, const table& known, const element_rule* rule,
     }
 }
 
-void reader::take(const table& known, std::size_t name, const node& parent, const node& child,
-                  void* object, frame& read) {
+// into both its callers: it is called for every element
+[[gnu::always_inline]] inline void reader::take(const table& known, std::size_t name,
+                                                const node& parent, const node& child, void* object,
+                                                frame& read) {
     const std::size_t index = known.names[name].entry;
     const table_entry& entry = known.entries[index];
     if ((read.seen_to & bit_of(index)) != 0) {
@@ -71,23 +69,27 @@ void reader::take(const table& known, std::size_t name, const node& parent, cons
     }
     const std::size_t kept = kept_->size();
     const taken result = entry.read(*this, parent, child, object);
-    if (!result.stored) {
-        read.empty |= bit_of(index);
-    } else {
+    if (result.stored) {
         read.stored |= bit_of(index);
         if ((read.empty & bit_of(index)) != 0) {
-            for (const node* before = &parent + 1; before != &child; before += before->size) {
-                if (before->name == child.name) {
-                    tell_lost(known.names[name], *before, nullptr);
-                }
-            }
+            tell_lost_before(known.names[name], parent, child);
         }
+    } else {
+        read.empty |= bit_of(index);
     }
     // what rides along takes the room, too: there can be no second of its path
     if (result.stored || kept_->size() != kept) {
         read.taken |= bit_of(entry.field);
     }
     read.seen_to |= result.all ? bit_of(index) : 0;
+}
+
+void reader::tell_lost_before(const table_name& name, const node& parent, const node& stored) {
+    for (const node* before = &parent + 1; before != &stored; before += before->size) {
+        if (before->name == stored.name) {
+            tell_lost(name, *before, nullptr);
+        }
+    }
 }
 
 frame reader::read_elements(const table& known, const node& parent, void* object,
@@ -108,7 +110,7 @@ frame reader::read_elements(const table& known, const node& parent, void* object
             tell_if_moved(parent, child);
         }
         last = child.name.is_attribute() ? last : name;
-        expected = name;
+        expected = name + 1;
     }
     tell_text_in_group(parent);
     return read;
@@ -152,7 +154,7 @@ bool reader::read_embedded(const table& known, const node& parent, const node& f
         const std::size_t name = known.find(child->name, expected);
         if (name != table::none) {
             take(known, name, parent, *child, object, read);
-            expected = name;
+            expected = name + 1;
         }
     }
     if (read.stored != 0) {
@@ -164,7 +166,7 @@ bool reader::read_embedded(const table& known, const node& parent, const node& f
 void reader::finish(const table& known, const frame& read, const node& parent, const void* object) {
     const std::uint64_t all = ~std::uint64_t{0} >> (64 - known.entries.size());
     const std::uint64_t open = (all & ~read.stored) | known.conditional;
-    if ((open & (known.plain | known.conditional)) == 0 && !has_empty_group(parent)) {
+    if ((open & (known.plain | known.conditional)) == 0 && read.empty == 0) {
         return;
     }
     for (std::size_t index = 0; index < known.entries.size(); ++index) {

@@ -65,9 +65,15 @@ struct table {
     std::uint64_t conditional; ///< those that have a condition
 
     /// Where a name stands, looked for from where it is expected; `none` where it does not.
-    std::size_t find(const element_name& name, std::size_t expected = 0) const;
+    std::size_t find(const element_name& name, std::size_t expected = 0) const {
+        return expected < names.size() && names[expected].name == name ? expected
+                                                                       : search(name, expected);
+    }
     /// Whether anything in an element has a name that stands here.
     bool knows_content_of(const node& element) const;
+
+private:
+    std::size_t search(const element_name& name, std::size_t expected) const;
 };
 
 /// Which entries of a table have read something, as bits.
@@ -108,7 +114,7 @@ public:
             tell_refused(element, expected_text<Value>(element.text, how));
             return false;
         }
-        if (gives_back<Value>(element.text) && !how.omit_default) {
+        if (gives_back<Value>(element.text, how) && !how.omit_default) {
             tell_held(element);
             return true;
         }
@@ -163,6 +169,8 @@ private:
     /// Tells of a group with nothing in it that no entry stored, and that is not written, and of
     /// those in it.
     void tell_lost(const table_name& name, const node& element, const node* written_parent);
+    /// The same of elements before the first of their name that an entry stored.
+    void tell_lost_before(const table_name& name, const node& parent, const node& stored);
     /// Tells that an element is not where the layout has it, between those that stand beside it.
     void tell_if_moved(const node& parent, const node& element);
     bool is_moved(const node& parent, const node& element);

@@ -36,26 +36,32 @@ public:
     void add(const node* written, const path_tree& kept, const table* known,
              const element_rule& rule) {
         std::vector<part> parts;
-        std::unordered_map<std::string_view, std::uint32_t> counts;
         std::unordered_set<const path_tree*> met; // of what is kept, what is written, too
         if (written != nullptr) {
+            std::string_view name;
+            std::uint32_t number = 0; // elements of one name are written one behind the other
             for (const node& child : children(*written)) {
-                const element_rule* const own = rule.child(child.name);
-                const std::uint32_t number = ++counts[child.name];
-                const path_tree* const beside = kept.find(child.name, number);
+                number = child.name == name ? number + 1 : 1;
+                name = child.name;
+                const path_tree* const beside = kept.find(name, number);
                 if (beside != nullptr) {
                     met.insert(beside);
                 }
-                parts.push_back({own == nullptr ? 0 : own->position(), number, &child, beside});
+                parts.push_back({0, number, &child, beside});
             }
         }
         if (met.size() != kept.inner.size()) {
+            for (part& each : parts) {
+                const element_rule* const own = rule.child(each.written->name);
+                each.position = own == nullptr ? 0 : own->position();
+            }
+            counts_by_name counts;
             for (const path_tree& element : kept.inner) {
                 if (!met.contains(&element)) {
-                    parts.push_back(checked(element, known, rule, counts));
+                    parts.push_back(checked(element, known, rule, written, counts));
                 }
             }
-            std::stable_sort(parts.begin(), parts.end(), [](const part& left, const part& right) {
+            std::sort(parts.begin(), parts.end(), [](const part& left, const part& right) {
                 return std::tie(left.position, left.number) <
                        std::tie(right.position, right.number);
             });
@@ -66,9 +72,23 @@ public:
     }
 
 private:
+    /// How many elements of a name stand in a group so far, for those names that were asked for.
+    using counts_by_name = std::unordered_map<std::string_view, std::uint32_t>;
+
+    static std::uint32_t number_of_next(std::string_view name, const node* written,
+                                        counts_by_name& counts) {
+        const auto [count, asked_first] = counts.try_emplace(name, 0);
+        if (asked_first && written != nullptr) {
+            const children group(*written);
+            count->second = static_cast<std::uint32_t>(std::count_if(
+                group.begin(), group.end(), [&](const node& child) { return child.name == name; }));
+        }
+        return ++count->second;
+    }
+
     /// A kept element that is not written, if it can stand in its group.
     static part checked(const path_tree& element, const table* known, const element_rule& rule,
-                        std::unordered_map<std::string_view, std::uint32_t>& counts) {
+                        const node* written, counts_by_name& counts) {
         const table_name* const field = find(known, element.name);
         if (field != nullptr && field->inner == nullptr) {
             refuse(element, "the element has a field");
@@ -83,7 +103,7 @@ private:
         if (element.number > own->most()) {
             refuse(element, "the layout takes no more than " + std::to_string(own->most()));
         }
-        if (element.number != ++counts[element.name]) {
+        if (element.number != number_of_next(element.name, written, counts)) {
             refuse(element,
                    "number " + std::to_string(element.number) + " without those before it");
         }

@@ -116,11 +116,15 @@ bool read_text(Value& value, std::string_view text, const form& how = {}) {
 }
 
 /// Whether a text that was read is certainly the value's own.
-template <single_value Value> bool gives_back(std::string_view text) {
+template <single_value Value> bool gives_back(std::string_view text, const form& how) {
     if constexpr (std::same_as<Value, std::string>) {
         return true;
     } else if constexpr (amount_structure<Value>) {
-        return gives_back<fiscal::decimal>(text);
+        return gives_back<fiscal::decimal>(text, how);
+    } else if constexpr (coded_value<Value>) {
+        const bool as_wide =
+            how.width == 0 ? text.size() == 1 || text.front() != '0' : text.size() == how.width;
+        return as_wide && how.base == 10 && !how.even_empty;
     } else if constexpr (requires { core::v7::value_converter<Value>::gives_back(text); }) {
         return core::v7::value_converter<Value>::gives_back(text);
     } else {

@@ -22,12 +22,15 @@ namespace kivo::erp::v12::layout {
 /// takes less than a call to find their end.
 inline std::string_view text_in_buffer(const char* text) {
     if constexpr (std::endian::native == std::endian::little) {
-        std::uint64_t first = 0;
-        std::memcpy(&first, text, sizeof first);
-        const std::uint64_t zeros =
-            (first - 0x0101010101010101) & ~first & std::uint64_t{0x8080808080808080};
-        if (zeros != 0) {
-            return {text, static_cast<std::size_t>(std::countr_zero(zeros)) / 8};
+        for (const char* at = text;; at += sizeof(std::uint64_t)) {
+            std::uint64_t next = 0;
+            std::memcpy(&next, at, sizeof next);
+            const std::uint64_t zeros =
+                (next - 0x0101010101010101) & ~next & std::uint64_t{0x8080808080808080};
+            if (zeros != 0) {
+                return {text, static_cast<std::size_t>(at - text) +
+                                  static_cast<std::size_t>(std::countr_zero(zeros)) / 8};
+            }
         }
     }
     return text;
@@ -64,6 +67,19 @@ public:
     constexpr std::string_view text() const { return text_; }
     constexpr operator std::string_view() const { return text_; } // NOLINT: it is a text
     constexpr bool is_attribute() const { return text_.starts_with('@'); }
+
+    /// Puts the name at a place with room for eight characters more; answers its end.
+    char* put(char* place) const {
+        if constexpr (std::endian::native == std::endian::little) {
+            std::memcpy(place, &first_, sizeof first_);
+            if (text_.size() > sizeof first_) {
+                text_.copy(place + sizeof first_, text_.npos, sizeof first_);
+            }
+        } else {
+            text_.copy(place, text_.size());
+        }
+        return place + text_.size();
+    }
 
     constexpr bool operator==(const element_name& other) const { // most names have few characters
         return first_ == other.first_ && text_.size() == other.text_.size() &&

@@ -30,7 +30,8 @@ struct invoice_document {
 const node& invoice_in(const tree& document);
 
 /// Reads the NF-e or NFC-e of a document. A text that a field cannot hold is reported and left out,
-/// and the rest is read. Throws std::runtime_error where there is no invoice in it.
+/// and the rest is read. One of another release than 4.00 is read as if it were of that;
+/// `outside.versao` tells. Throws std::runtime_error where there is no invoice in it.
 invoice_document read_document(const tree& document);
 
 /// The same of an XML document, with or without namespace prefixes; see `parse_xml`.

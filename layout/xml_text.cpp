@@ -75,10 +75,7 @@ bool is_plain(const char* bytes) {
     unsigned char others = 0; // without a branch: the compiler looks at many bytes at once
     for (std::size_t index = 0; index < block; ++index) {
         const auto byte = static_cast<signed char>(bytes[index]); // of other characters: below 0
-        const auto below = static_cast<signed char>(-(byte < 0x20));
-        const auto blank =
-            static_cast<signed char>(-(byte == '\t') | -(byte == '\n') | -(byte == '\r'));
-        others = static_cast<unsigned char>(others | (below ^ blank));
+        others = static_cast<unsigned char>(others | (-(byte < 0x20) ^ -(byte == '\n')));
     }
     return others == 0;
 }
@@ -241,7 +238,9 @@ bool is_namespace(std::string_view attribute) {
 /// Moves a parsed document into a tree. Texts lie in the buffer that was parsed.
 class tree_maker final : public pugi::xml_tree_walker {
 public:
-    tree_maker(tree& result, bool prefixed) : result_(&result), prefixed_(prefixed) {}
+    /// `xml` is the document, and `buffer` where it was parsed.
+    tree_maker(tree& result, std::string_view xml, const char* buffer)
+        : result_(&result), xml_(xml), buffer_(buffer), prefixed_(xml.find("xmlns:") != xml.npos) {}
 
     bool for_each(pugi::xml_node& found) override {
         const auto level = static_cast<std::size_t>(depth()); // that of the root is 0
@@ -258,12 +257,14 @@ public:
         last_[level] = index;
         const char* const text = found.value(); // not in the buffer where there is none
         const char* const colon = prefixed_ ? std::strchr(name, ':') : nullptr;
-        result_->add_below(index - parent,
-                           element_name::in_buffer(colon == nullptr ? name : colon + 1),
+        const element_name own = element_name::in_buffer(colon == nullptr ? name : colon + 1);
+        result_->add_below(index - parent, own,
                            *text == '\0' ? std::string_view() : text_in_buffer(text));
-        for (pugi::xml_attribute attribute = found.first_attribute(); attribute;
-             attribute = attribute.next_attribute()) {
-            add(found, attribute, result_->size() - index);
+        if (may_have_attributes(own)) {
+            for (pugi::xml_attribute attribute = found.first_attribute(); attribute;
+                 attribute = attribute.next_attribute()) {
+                add(found, attribute, result_->size() - index);
+            }
         }
         return true;
     }
@@ -293,6 +294,11 @@ private:
         std::string_view text;
     };
 
+    /// Few elements have one, and to ask the parser takes longer.
+    bool may_have_attributes(std::string_view name) const {
+        return xml_[static_cast<std::size_t>(name.data() + name.size() - buffer_)] != '>';
+    }
+
     void add(const pugi::xml_node& element, const pugi::xml_attribute& attribute, std::size_t up) {
         const std::string_view name = attribute.name();
         if (element.attribute(attribute.name()) != attribute) {
@@ -307,6 +313,8 @@ private:
     }
 
     tree* result_;
+    std::string_view xml_;
+    const char* buffer_;
     bool prefixed_;                           // whether names may have prefixes
     std::array<std::size_t, deepest> last_{}; // the last element of each level
     std::vector<piece> pieces_;
@@ -349,7 +357,7 @@ tree parse_xml(std::string_view xml) {
         refuse("a text behind its root");
     }
     result.expect(xml.size() / 32);
-    tree_maker maker(result, xml.find("xmlns:") != xml.npos);
+    tree_maker maker(result, xml, buffer);
     parsed.traverse(maker);
     return result;
 }
@@ -385,7 +393,7 @@ public:
         const node* const end = &element + element.size;
         make_room(3 * element.name.text().size() + longest * element.text.size());
         put('<');
-        put(element.name);
+        put_name(element.name);
         for (; inner != end && inner->name.is_attribute(); ++inner) {
             make_room(inner->name.text().size() + longest * inner->text.size());
             put(' ');
@@ -401,7 +409,7 @@ public:
         }
         make_room(element.name.text().size());
         put("</");
-        put(element.name);
+        put_name(element.name);
         put('>');
     }
 
@@ -424,6 +432,10 @@ private:
     void put(std::string_view part) {
         std::memcpy(text_.data() + used_, part.data(), part.size());
         used_ += part.size();
+    }
+
+    void put_name(const element_name& name) {
+        used_ = static_cast<std::size_t>(name.put(text_.data() + used_) - text_.data());
     }
 
     void put_escaped(std::string_view part, bool attribute) {

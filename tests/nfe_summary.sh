@@ -300,6 +300,14 @@ assert (first['ICMS_CST'], first['vPIS'], first['vIBS']) == ('000', '68.19', '3.
 assert all(None not in row and None not in row.values() for row in rows)
 PYTHON
 
+# What is read as something else, or not read at all, is told.
+sed 's|versao="4.00"|versao="3.10"|' "$data/nfce.xml" > "$folder/release.xml"
+sed 's|</infNFe>|&<infNFe versao="4.00"/>|' "$data/nfce.xml" > "$folder/second.xml"
+for how in --width=100 --xml; do
+    run 0 '@versao: "3.10" is read as 4.00' $how "$folder/release.xml"
+    run 0 'NFe/infNFe[2]: another invoice in the same NFe, not read' $how "$folder/second.xml"
+done
+
 # What the layout does not allow is listed, with the file.
 run 0 '' --check "$data"
 sed 's|<mod>55|<mod>56|; /<natOp>/d' "$data/nfe.xml" > "$folder/faulty.xml"

@@ -59,7 +59,7 @@ int run_xml(const arguments& given) {
     if (given.only_fields && !lost.empty()) {
         complain(path, say("left out, without a field: {}", joined(lost)));
     }
-    for (const std::string& change : changes(document.report)) {
+    for (const std::string& change : changes(document)) {
         complain(path, change);
     }
     return tell_refusals(path, document.report);

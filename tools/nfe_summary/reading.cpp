@@ -65,8 +65,19 @@ std::vector<std::string> refusals(const layout::report& told) {
     return texts;
 }
 
-std::vector<std::string> changes(const layout::report& told) {
+std::vector<std::string> changes(const layout::invoice_document& document) {
     std::vector<std::string> texts;
+    const std::string& release = document.outside.versao;
+    if (release != layout::outside_texts().versao) {
+        texts.push_back(
+            say("@versao: {} is read as {}", in_quotes(release), layout::outside_texts().versao));
+    }
+    for (const std::string& path : document.beside) {
+        if (path.find("infNFe[") != path.npos) {
+            texts.push_back(say("{}: another invoice in the same NFe, not read", path));
+        }
+    }
+    const layout::report& told = document.report;
     for (const auto& changed : told.written_otherwise) {
         texts.push_back(
             changed.text.empty()
@@ -95,7 +106,7 @@ void show_reading(const page& out, const layout::invoice_document& document) {
     std::vector<std::string> beside = counted_by_name(document.beside);
     std::erase(beside, "protNFe"); // it is shown
     out.field(tr("Beside"), joined(shortened_list(out, beside)));
-    out.fields(tr("Changed"), shortened_list(out, changes(told)));
+    out.fields(tr("Changed"), shortened_list(out, changes(document)));
     out.fields(tr("Refused"), refusals(told));
 }
 
