@@ -2,6 +2,8 @@
 
 #include <layout/xml_text.hpp>
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <stdexcept>
 
@@ -340,6 +342,7 @@ std::vector<element> large_documents() {
 
 void for_each_rule(const std::function<void(const element_rule&)>& visit) {
     for (const element_rule* rule = next(infnfe_rule()); rule != nullptr; rule = next(*rule)) {
+        SCOPED_TRACE(rule->path());
         visit(*rule);
     }
 }
