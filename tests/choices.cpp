@@ -122,9 +122,9 @@ TEST(choices, of_the_icms_stand_in_their_order) {
              grupo_tributacao_icms_202(), grupo_tributacao_icms_500(), grupo_tributacao_icms_900(),
              grupo_repasse_icms_st(), grupo_tributacao_icms_02(), grupo_tributacao_icms_15(),
              grupo_tributacao_icms_53(), grupo_tributacao_icms_61());
-    std::vector<std::string> expected;
-    for (int index = 0; index < 20; ++index) {
-        expected.push_back("ICMS " + std::to_string(index));
+    std::vector<std::string> expected(20);
+    for (std::size_t index = 0; index < expected.size(); ++index) {
+        expected[index] = "ICMS " + std::to_string(index);
     }
     EXPECT_EQ(found, expected);
 }

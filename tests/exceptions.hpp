@@ -29,7 +29,7 @@ template <class Class> promise of_copying() {
 // Catches a constructor that loses what it built when a later part fails, and a move that takes
 // from its source what it does not need yet.
 TYPED_TEST_P(every_failure, of_construction_leaves_nothing_behind) {
-    const TypeParam source = sample<TypeParam>(1);
+    const auto source = sample<TypeParam>(1);
     const auto nowhere = [] { return std::optional<TypeParam>(); };
     const auto nothing_left = [](const auto& target, std::size_t before) {
         EXPECT_FALSE(target.has_value());
@@ -60,7 +60,7 @@ TYPED_TEST_P(every_failure, of_construction_leaves_nothing_behind) {
 // Catches a lazy assignment that touches its target before the copy stands, and an eager one that
 // leaves a value neither old nor new, or walks the record in another order.
 TYPED_TEST_P(every_failure, of_assignment_leaves_a_whole_target) {
-    const TypeParam source = sample<TypeParam>(1);
+    const auto source = sample<TypeParam>(1);
     const auto fresh = texts(source);
     for (const TypeParam& old : {TypeParam(), sample<TypeParam>(2)}) {
         const auto check = after_assignment(old, source);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/allocations.hpp"
+#include "support/failing_operation.hpp"
 #include "support/failures.hpp"
 #include "support/kinds.hpp"
 #include "support/left_behind.hpp"
@@ -13,7 +14,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <limits>
 #include <optional>
 #include <type_traits>
 #include <utility>
@@ -28,34 +28,6 @@ using counting::operation;
 
 template <class Class> class every_throw : public ::testing::Test {};
 TYPED_TEST_SUITE_P(every_throw);
-
-/// An operation of a base value that fails. The evidence is the log.
-class failing_operation {
-public:
-    using failure = counting::failure;
-    static constexpr const char* name = "failing operations of base values";
-    static std::size_t live() { return counting::live; }
-
-    explicit failing_operation(std::size_t allowed) {
-        counting::log = &log_;
-        counting::allowed = allowed;
-    }
-    failing_operation(const failing_operation&) = delete;
-    failing_operation& operator=(const failing_operation&) = delete;
-    void end() {
-        reached_ = counting::failed;
-        counting::log = nullptr;
-        counting::allowed = std::numeric_limits<std::size_t>::max();
-        counting::failed = false;
-    }
-    bool was_reached() const { return reached_; }
-    std::size_t steps() const { return log_.size(); }
-    const std::vector<event>& evidence() const { return log_; }
-
-private:
-    std::vector<event> log_;
-    bool reached_ = false;
-};
 
 /// Lets each operation of a base value fail once.
 template <class Class, class Prepare, class Operation, class Check>
@@ -110,7 +82,7 @@ struct released {
 
 // Catches a constructor that forgets what it built, or releases it in the wrong order.
 TYPED_TEST_P(every_throw, in_construction_releases_what_was_built) {
-    const TypeParam source = sample<TypeParam>(1);
+    const auto source = sample<TypeParam>(1);
     struct pair {
         std::optional<TypeParam> from;
         std::optional<TypeParam> to;

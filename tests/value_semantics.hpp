@@ -116,7 +116,7 @@ TYPED_TEST_P(every_class, assignment_replaces_every_field) {
 
 // Catches an assignment that destroys its own source.
 TYPED_TEST_P(every_class, self_assignment_changes_nothing) {
-    TypeParam object = sample<TypeParam>(1);
+    auto object = sample<TypeParam>(1);
     const auto expected = texts(object);
     TypeParam& same = object;
     object = same;
@@ -129,7 +129,7 @@ TYPED_TEST_P(every_class, self_assignment_changes_nothing) {
 
 // Catches an eager move that steals the record, a lazy one that leaves it, and a move that copies.
 TYPED_TEST_P(every_class, moves_leave_what_the_kind_promises) {
-    const TypeParam original = sample<TypeParam>(1);
+    const auto original = sample<TypeParam>(1);
 
     TypeParam source = original;
     TypeParam target = std::move(source);
@@ -167,7 +167,7 @@ TYPED_TEST_P(every_class, empty_handles_allocate_nothing) {
             EXPECT_EQ(taken_blocks() - start, 2 * of_a_default) << field.setter_name;
         });
 
-        TypeParam full = sample<TypeParam>(1);
+        auto full = sample<TypeParam>(1);
         const auto expected = texts(full);
         const std::size_t filled = taken_blocks();
         full.swap(empty);
@@ -181,7 +181,7 @@ TYPED_TEST_P(every_class, empty_handles_allocate_nothing) {
 TYPED_TEST_P(every_class, records_are_released) {
     const std::size_t before = live_blocks();
     {
-        TypeParam object = sample<TypeParam>(1);
+        auto object = sample<TypeParam>(1);
         TypeParam other = object;
         other = std::move(object);
         object = sample<TypeParam>(2);

@@ -89,9 +89,9 @@ std::string runs_of(const text_rule& way, bool longest) {
 void add_decimals(std::vector<std::string>& result, const text_rule& way) {
     const std::string largest =
         way.largest != 0 ? std::to_string(way.largest) : repeated(way.whole, "9");
-    result.push_back("1");
+    result.emplace_back("1");
     if (way.bare_zero && !way.above_zero) {
-        result.push_back("0");
+        result.emplace_back("0");
     }
     result.push_back("1." + repeated(way.most, "0"));
     result.push_back(largest);

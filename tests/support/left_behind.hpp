@@ -18,7 +18,7 @@ namespace kivo::tests {
 /// The object is as it was.
 template <class Class> class left_unchanged {
 public:
-    explicit left_unchanged(const Class& old) : old_(old) {}
+    explicit left_unchanged(Class old) : old_(std::move(old)) {}
     template <class Evidence> void operator()(const Class& found, const Evidence&) const {
         EXPECT_TRUE(same_fields(found, old_));
     }
@@ -113,7 +113,7 @@ std::string fault_between(const Value& found, const Value& old, const Value& fre
 /// Fields that come first in the record are new, those behind the failure old.
 template <class Class> class new_then_old {
 public:
-    new_then_old(const Class& old, const Class& fresh) : old_(old), fresh_(fresh) {}
+    new_then_old(Class old, Class fresh) : old_(std::move(old)), fresh_(std::move(fresh)) {}
     template <class Evidence> void operator()(const Class& found, const Evidence&) const {
         EXPECT_EQ(detail::fault_of_change(found, old_, fresh_), "");
     }
