@@ -38,7 +38,7 @@ public:
     arena_message() = default;
     arena_message(const arena_message& other) { *message_ = *other.message_; }
     arena_message(arena_message&&) noexcept = default;
-    arena_message& operator=(const arena_message& other) {
+    arena_message& operator=(const arena_message& other) { // NOLINT: a message takes care of itself
         *message_ = *other.message_;
         return *this;
     }

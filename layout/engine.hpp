@@ -789,7 +789,7 @@ struct action<Class, word::outside<Name, Member, Derive>> : named_word<Name> {
 
     static void write(writer& out, const void* object) {
         std::string text = out.outside().*Member;
-        if constexpr (Derive != nullptr) {
+        if constexpr (!std::is_null_pointer_v<decltype(Derive)>) {
             text = text.empty() ? Derive(*static_cast<const Class*>(object)) : text;
         }
         out.write_single(name_of<Name>, {}, text);
@@ -800,9 +800,10 @@ struct action<Class, word::outside<Name, Member, Derive>> : named_word<Name> {
 template <class Class> struct table_filler {
     table_name* names = nullptr;
     table_entry* list = nullptr;
-    const void** fields = nullptr; // what tells the accessors of the entries apart
+    std::string_view* fields = nullptr; // the getters of the entries
     std::size_t name_count = 0;
     std::size_t entry_count = 0;
+    std::uint64_t conditional = 0; // a bit for each entry that is not always written
 
     template <class... Entry> constexpr void add_all(entries<Entry...>) { (add<Entry>(), ...); }
 
@@ -812,10 +813,10 @@ template <class Class> struct table_filler {
             requires { typename Entry::inner; } && !requires { Entry::name; }) {
             add_exclusive(typename Entry::inner());
         } else if constexpr (requires { action<Class, Entry>::plain; }) {
-            const void* const own_field = field_of<Entry>();
+            const std::string_view own_field = getter_of<Entry>();
             if (list != nullptr) {
                 fields[entry_count] = own_field;
-                for (std::size_t index = 0; own_field != nullptr && index < entry_count; ++index) {
+                for (std::size_t index = 0; !own_field.empty() && index < entry_count; ++index) {
                     beside = fields[index] == own_field ? index : beside;
                 }
                 list[entry_count] = {&action<Class, Entry>::read, &action<Class, Entry>::write,
@@ -828,6 +829,9 @@ template <class Class> struct table_filler {
                 }
                 ++name_count;
             });
+            if constexpr (requires { Entry::condition; }) {
+                conditional |= std::uint64_t{1} << entry_count;
+            }
             ++entry_count;
         } else {
             static_assert(
@@ -843,14 +847,14 @@ private:
     }
 
     /// Tells the field that an entry has, or has again, from others.
-    template <class Entry> static constexpr const void* field_of() {
+    template <class Entry> static constexpr std::string_view getter_of() {
         if constexpr (requires { typename Entry::value_type; }) {
-            return &accessor<Entry::get, Entry::set>::identity;
+            return Entry::getter_name;
         } else if constexpr (
             requires { typename Entry::entry; } && !requires { Entry::condition; }) {
-            return field_of<typename Entry::entry>();
+            return getter_of<typename Entry::entry>();
         } else {
-            return nullptr;
+            return {};
         }
     }
 
@@ -898,24 +902,22 @@ private:
     };
     static constexpr filled_table filled = [] {
         filled_table result{};
-        std::array<const void*, counted.entry_count> fields{};
+        std::array<std::string_view, counted.entry_count> fields{};
         table_filler<Class> filler{result.names.data(), result.list.data(), fields.data()};
         filler.add_all(Entries());
         return result;
     }();
 
-    template <class Is> static constexpr std::uint64_t bits_of(Is is) {
+    static constexpr std::uint64_t plain = [] {
         std::uint64_t bits = 0;
         for (std::size_t index = 0; index < filled.list.size(); ++index) {
-            bits |= std::uint64_t{is(filled.list[index])} << index;
+            bits |= std::uint64_t{filled.list[index].plain} << index;
         }
         return bits;
-    }
+    }();
 
 public:
-    static constexpr table whole{
-        filled.names, filled.list, bits_of([](const table_entry& entry) { return entry.plain; }),
-        bits_of([](const table_entry& entry) { return entry.stands != nullptr; })};
+    static constexpr table whole{filled.names, filled.list, plain, counted.conditional};
 };
 
 /// The element of a group alone, with what its map writes in it.

@@ -169,7 +169,6 @@ template <auto Get, auto Set> struct accessor {
 
     static constexpr auto get = Get;
     static constexpr auto set = Set;
-    static constexpr char identity = 0; ///< its address is that of no other accessor pair
     static constexpr std::string_view getter_name = detail::member_name<Get>();
     static constexpr std::string_view setter_name = detail::member_name<Set>();
 };
@@ -368,10 +367,12 @@ template <bool Conditional, bool Again, class... Element> struct walk {
     }
 
     template <class Entry> static constexpr auto one() {
-        if constexpr (requires { Entry::even_empty; }) {
-            return walk<Conditional, Again, Element..., Entry>::all(typename Entry::inner());
-        } else if constexpr (requires { typename Entry::inner; }) {
-            return all(typename Entry::inner());
+        if constexpr (requires { typename Entry::inner; }) {
+            if constexpr (requires { Entry::name; }) {
+                return walk<Conditional, Again, Element..., Entry>::all(typename Entry::inner());
+            } else {
+                return all(typename Entry::inner());
+            }
         } else if constexpr (requires { Entry::condition; }) {
             return walk<true, Again, Element...>::template one<typename Entry::entry>();
         } else if constexpr (requires { typename Entry::entry; }) {

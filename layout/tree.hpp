@@ -60,7 +60,7 @@ public:
             }
             return result;
         } else {
-            return element_name(result.text_);
+            return {result.text_};
         }
     }
 

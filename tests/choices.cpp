@@ -1,17 +1,18 @@
+#include "support/classes.hpp"
 #include "support/failures.hpp"
 #include "support/kinds.hpp"
+#include "support/same_fields.hpp"
 #include "support/samples.hpp"
 #include "support/valueless.hpp"
 
-#include <layout/document.hpp>
-#include <layout/items.hpp>
-#include <layout/transport.hpp>
+#include <layout/invoice.hpp>
 
 #include <gtest/gtest.h>
 
 #include <functional>
 #include <numeric>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -50,39 +51,47 @@ template <class Value> std::vector<Value> states(std::size_t number) {
     return result;
 }
 
-template <class Class> class every_choice : public ::testing::Test {};
-using holders = ::testing::Types<declaracao_importacao, grupo_agropecuario, grupo_cbs_cred_pres,
-                                 grupo_ibs_cred_pres, medicamento, produto, sequencia_cred_pres,
-                                 sequencia_ibs_cbs, transportador, tributacao_pis_cofins>;
-TYPED_TEST_SUITE(every_choice, holders);
+/// Sets a choice of a new object from each state to each other.
+template <class Class, class Accessor> void change_from_any_state_to_any_other(const Accessor&) {
+    using value = value_of<Accessor, Class>;
+    const auto held = [](const Class& object) { return text((object.*Accessor::get)()); };
+    for (const value& from : states<value>(1)) {
+        for (const value& to : states<value>(2)) {
+            SCOPED_TRACE(std::string(Accessor::getter_name) + " from " + text(from));
+            Class set;
+            (set.*Accessor::set)(from);
+            Class copied_to = set;
+            Class moved_to = set;
+            (set.*Accessor::set)(to);
+            copied_to = set;
+            const Class copy = set;
+            const auto expected = text(to);
+            EXPECT_EQ(held(set), expected);
+            EXPECT_EQ(held(copied_to), expected);
+            EXPECT_EQ(held(copy), expected);
+            moved_to = std::move(set);
+            EXPECT_EQ(held(moved_to), expected);
+            const Class moved = std::move(moved_to);
+            EXPECT_EQ(held(moved), expected);
+        }
+    }
+}
 
 // Catches a switch that keeps something of the old kind, and a choice without a value that does not
 // travel as one.
-TYPED_TEST(every_choice, changes_from_any_state_to_any_other) {
-    for_each_field<TypeParam>([](const auto& field, std::size_t) {
-        using value = value_of<std::remove_cvref_t<decltype(field)>, TypeParam>;
-        if constexpr (is_variant<value> || is_variant<typename optional<value>::value_type>) {
-            for (const value& from : states<value>(1)) {
-                for (const value& to : states<value>(2)) {
-                    TypeParam set;
-                    (set.*field.set)(from);
-                    TypeParam copied_to = set;
-                    TypeParam moved_to = set;
-                    (set.*field.set)(to);
-                    copied_to = set;
-                    const TypeParam copy = set;
-                    const auto expected = text(to);
-                    EXPECT_EQ(text((set.*field.get)()), expected) << "from " << text(from);
-                    EXPECT_EQ(text((copied_to.*field.get)()), expected) << "from " << text(from);
-                    EXPECT_EQ(text((copy.*field.get)()), expected);
-                    moved_to = std::move(set);
-                    EXPECT_EQ(text((moved_to.*field.get)()), expected) << "from " << text(from);
-                    const TypeParam moved = std::move(moved_to);
-                    EXPECT_EQ(text((moved.*field.get)()), expected);
-                }
+TEST(choices, change_from_any_state_to_any_other) {
+    std::size_t tried = 0;
+    for_each_class<nota_fiscal>([&]<class Class>(std::type_identity<Class>) {
+        for_each_field<Class>([&](const auto& field, std::size_t) {
+            using accessor = std::remove_cvref_t<decltype(field)>;
+            using value = value_of<accessor, Class>;
+            if constexpr (is_variant<erp::v12::layout::content_of<value>>) {
+                change_from_any_state_to_any_other<Class>(field);
+                ++tried;
             }
-        }
+        });
     });
+    EXPECT_GT(tried, 10U);
 }
 
 /// Which alternatives an item's tax stands in: of the outer choice, and of the ICMS.
@@ -113,9 +122,9 @@ TEST(choices, of_the_icms_stand_in_their_order) {
              grupo_tributacao_icms_202(), grupo_tributacao_icms_500(), grupo_tributacao_icms_900(),
              grupo_repasse_icms_st(), grupo_tributacao_icms_02(), grupo_tributacao_icms_15(),
              grupo_tributacao_icms_53(), grupo_tributacao_icms_61());
-    std::vector<std::string> expected;
-    for (int index = 0; index < 20; ++index) {
-        expected.push_back("ICMS " + std::to_string(index));
+    std::vector<std::string> expected(20);
+    for (std::size_t index = 0; index < expected.size(); ++index) {
+        expected[index] = "ICMS " + std::to_string(index);
     }
     EXPECT_EQ(found, expected);
 }
@@ -146,10 +155,10 @@ void fail_each_change(const std::vector<change<Class>>& changes, Held held, Left
                     const Class copy = object;
                     EXPECT_EQ(held(copy), expected) << "from " << from << " to " << to;
                     if (from != to && from == expected) {
-                        EXPECT_EQ(texts(copy), texts(before)) << "from " << from << " to " << to;
+                        EXPECT_TRUE(same_fields(copy, before)) << "from " << from << " to " << to;
                     }
                     second(object);
-                    EXPECT_EQ(texts(object), texts(after)) << "it can still be set";
+                    EXPECT_TRUE(same_fields(object, after)) << "it can still be set";
                 });
         }
     }

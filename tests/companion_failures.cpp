@@ -45,7 +45,8 @@ sample_document sample_of(const std::string& name) {
 /// Runs `operation(sample)` on samples while each of its allocations fails. What it works on stays
 /// as it was.
 template <class Operation> void fail_on_samples(promise promised, Operation operation) {
-    for (const char* const name : {"medicine.xml", "references.xml"}) {
+    for (const char* const name :
+         {"medicine.xml", "references.xml", "import.xml", "ibs-cbs-regular.xml"}) {
         SCOPED_TRACE(name);
         const sample_document sample = sample_of(name);
         const std::string before = write_xml(sample.read);

@@ -257,7 +257,7 @@ void change(element& infnfe, unsigned kind, unsigned first, unsigned second) {
         break;
     case 2:
         if (!inner.empty()) {
-            inner.erase(inner.begin() + second % inner.size());
+            inner.erase(inner.begin() + static_cast<std::ptrdiff_t>(second % inner.size()));
         }
         break;
     case 3:
@@ -278,7 +278,8 @@ void change(element& infnfe, unsigned kind, unsigned first, unsigned second) {
     case 6: {
         const element added = other; // it may be one of those around
         if (!is_attribute(changed) && !is_attribute(added)) {
-            inner.insert(inner.begin() + second % (inner.size() + 1), added);
+            inner.insert(inner.begin() + static_cast<std::ptrdiff_t>(second % (inner.size() + 1)),
+                         added);
         }
         break;
     }

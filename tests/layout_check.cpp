@@ -1,4 +1,5 @@
 #include "support/allocations.hpp"
+#include "support/documents.hpp"
 
 #include <layout/check.hpp>
 #include <layout/elements.hpp>
@@ -31,124 +32,8 @@ using namespace erp::v12::layout;
 using faults = std::vector<fault>;
 using texts = std::vector<placed_text>;
 
-/// A short text that an element may have.
-std::string short_text(const element_rule& rule) {
-    using kind = text_rule::kind;
-    const text_rule& way = rule.texts().front();
-    switch (way.is) {
-    case kind::empty:
-        return {};
-    case kind::text:
-    case kind::word:
-        return std::string(way.least, 'x');
-    case kind::digits:
-        return std::string(way.least, '0');
-    case kind::number:
-        return std::to_string(way.smallest);
-    case kind::decimal:
-        return "1";
-    case kind::codes:
-        return std::string(*way.codes().begin());
-    case kind::like: {
-        std::string result;
-        for (const char_run& run : way.runs()) {
-            char character = ' ';
-            while (!run.set.has(character)) {
-                ++character;
-            }
-            result.append(run.least, character);
-        }
-        return result;
-    }
-    case kind::date:
-        return "2024-02-29";
-    case kind::datetime:
-        return "2024-02-29T23:59:59-03:00";
-    case kind::aamm:
-        return "0012";
-    case kind::aaaa_mm:
-        return "2025-01";
-    case kind::mm_aaaa:
-        return "12/2999";
-    case kind::base64:
-        return way.most == 0 ? "" : std::string(way.most * 4U / 3 + 1, 'A') + '=';
-    }
-    return {};
-}
-
-/// The smallest document that has an element, or one that differs from it in that element.
-struct small_document {
-    const element_rule* wanted = &infnfe_rule();
-    unsigned times = 1; ///< how often the element stands there
-    /// What is written instead of its text; of a group, before what stands in it.
-    core::v7::optional<std::string> text = {};
-
-    tree built() const {
-        tree result;
-        add(result, infnfe_rule(), "infNFe", 1);
-        return result;
-    }
-    faults checked() const { return check(built().root()); }
-
-private:
-    bool leads_to_wanted(const element_rule& rule) const {
-        const element_rule* at = wanted;
-        while (at != nullptr && at != &rule) {
-            at = at->parent();
-        }
-        return at != nullptr;
-    }
-    bool leads_to_wanted(const element_rule& group, const group_rule& part) const {
-        return std::any_of(group.children().begin(), group.children().end(), [&](const auto& it) {
-            return (part.elements >> it.position() & 1) != 0 && leads_to_wanted(it);
-        });
-    }
-    /// `number` is that of the element, or of the one that the attribute stands in.
-    void add(tree& result, const element_rule& rule, std::string_view name, unsigned number) const {
-        std::string own;
-        if (&rule == wanted && text) {
-            own = *text;
-        } else if (!rule.is_group()) {
-            own = rule.unique() ? std::to_string(number) : short_text(rule);
-        }
-        result.open(name, result.keep(own));
-        if (rule.is_group()) {
-            add_part(result, rule, rule.content(), number);
-        }
-        result.close();
-    }
-    void add_part(tree& result, const element_rule& group, const group_rule& part,
-                  unsigned number) const {
-        const bool needed = leads_to_wanted(group, part);
-        if (part.is == group_rule::kind::element) {
-            const element_rule& rule = group.children()[part.position];
-            const unsigned total = &rule == wanted ? times : needed || !part.optional ? 1 : 0;
-            for (unsigned index = 0; index < total; ++index) {
-                add(result, rule, rule.name(), rule.is_attribute() ? number : index + 1);
-            }
-        } else if (needed || !part.optional) {
-            const group_rule* const end = &part + part.size;
-            const group_rule* chosen = &part + 1;
-            for (const group_rule* inner = &part + 1; inner != end; inner += inner->size) {
-                if (part.is == group_rule::kind::sequence) {
-                    add_part(result, group, *inner, number);
-                } else if (leads_to_wanted(group, *inner)) {
-                    chosen = inner;
-                }
-            }
-            if (part.is == group_rule::kind::choice) {
-                add_part(result, group, *chosen, number);
-            }
-        }
-    }
-};
-
-void for_each_rule(const std::function<void(const element_rule&)>& visit) {
-    for (const element_rule* rule = next(infnfe_rule()); rule != nullptr; rule = next(*rule)) {
-        SCOPED_TRACE(rule->path());
-        visit(*rule);
-    }
-}
+/// What the layout finds in a document.
+faults checked(const small_document& document) { return check(tree_of(document.infnfe()).root()); }
 
 // Catches an element that gets lost between the text and the tables, or into another place.
 TEST(elements, are_those_of_the_text_in_its_order) {
@@ -327,9 +212,9 @@ TEST(elements, exclude_each_other_across_the_branches_of_a_choice) {
 TEST(checked_documents, have_the_fault_that_was_made_and_no_other) {
     for_each_rule([](const element_rule& rule) {
         const std::string path = rule.path();
-        EXPECT_EQ(small_document{&rule}.checked(), faults());
+        EXPECT_EQ(checked({&rule}), faults());
 
-        const faults without = small_document{&rule, 0}.checked();
+        const faults without = checked({&rule, 0});
         if (rule.mandatory()) {
             ASSERT_EQ(without.size(), 1U);
             EXPECT_EQ(without[0].is, fault::kind::missing);
@@ -338,13 +223,14 @@ TEST(checked_documents, have_the_fault_that_was_made_and_no_other) {
             EXPECT_EQ(without, faults());
         }
 
-        const faults too_many = small_document{&rule, rule.most() + 1}.checked();
-        const fault one_too_many{
-            fault::kind::too_many, path + '[' + std::to_string(rule.most() + 1) + ']',
-            rule.is_group() ? "" : short_text(rule), "at most " + std::to_string(rule.most())};
+        const faults too_many = checked({&rule, rule.most() + 1});
+        const fault one_too_many{fault::kind::too_many,
+                                 path + '[' + std::to_string(rule.most() + 1) + ']',
+                                 rule.is_group() ? "" : texts_for(rule).front(),
+                                 "at most " + std::to_string(rule.most())};
         EXPECT_EQ(std::count(too_many.begin(), too_many.end(), one_too_many), 1);
 
-        const faults wrong_text = small_document{&rule, 1, "\u20AC"}.checked();
+        const faults wrong_text = checked({&rule, 1, "\u20AC"});
         ASSERT_EQ(wrong_text.size(), 1U);
         EXPECT_EQ(
             wrong_text[0],
@@ -355,7 +241,7 @@ TEST(checked_documents, have_the_fault_that_was_made_and_no_other) {
 
 /// The texts of the smallest document that has an element.
 texts texts_with(std::string_view path) {
-    return texts_of(small_document{rule_at(path)}.built().root());
+    return texts_of(tree_of(small_document{rule_at(path)}.infnfe()).root());
 }
 
 void change(texts& changed, const std::string& path, const std::string& text) {
@@ -622,14 +508,14 @@ TEST(checked_texts, follow_their_form) {
 TEST(checked_documents, may_have_blanks_between_elements) {
     small_document document{rule_at("emit/enderEmit")};
     document.text = "\r\n\t ";
-    EXPECT_EQ(document.checked(), faults());
+    EXPECT_EQ(checked(document), faults());
     document.text = "\u00A0";
-    EXPECT_EQ(document.checked().size(), 1U);
+    EXPECT_EQ(checked(document).size(), 1U);
 }
 
 // Catches a check that prepares for faults before there is one.
 TEST(checked_documents, cost_no_allocation_where_nothing_is_wrong) {
-    const tree document = small_document{rule_at("det/prod/comb/origComb/pOrig")}.built();
+    const tree document = tree_of(small_document{rule_at("det/prod/comb/origComb/pOrig")}.infnfe());
     const std::size_t before = taken_blocks();
     const faults found = check(document.root());
     EXPECT_EQ(taken_blocks(), before);

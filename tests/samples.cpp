@@ -19,7 +19,6 @@
 /// The invoices of examples/data, through the objects and back.
 namespace kivo::tests {
 
-using erp::v12::fiscal::decimal;
 using erp::v12::fiscal::nota_fiscal;
 using erp::v12::layout::invoice_document;
 using erp::v12::layout::read_file;
@@ -187,109 +186,6 @@ TEST(samples, use_every_place_of_every_field) {
     });
     for (const std::string& path : paths_of_fields()) {
         EXPECT_TRUE(used.contains("infNFe/" + path)) << path;
-    }
-}
-
-/// In ten-thousandths, of which a sum is exact.
-std::int64_t amount_of(const std::string& text) {
-    decimal value;
-    EXPECT_EQ(core::v7::value_converter<decimal>::make_value(value, text.c_str(), text.size()), 0)
-        << text;
-    std::int64_t result = value.coefficient();
-    EXPECT_LE(value.scale(), 4U);
-    for (unsigned scale = value.scale(); scale < 4; ++scale) {
-        result *= 10;
-    }
-    return result;
-}
-
-std::int64_t sum_of(const pugi::xml_node& infnfe, const std::string& path) {
-    std::int64_t result = 0;
-    for (const pugi::xpath_node& found : infnfe.select_nodes(path.c_str())) {
-        result += amount_of(found.node().text().get());
-    }
-    return result;
-}
-
-struct total {
-    std::string path;
-    std::string items;
-};
-
-/// Each total of the layout, and the items' elements that it sums up.
-std::vector<total> totals() {
-    std::vector<total> result;
-    const auto add = [&](const std::string& total_group, const std::string& item_group,
-                         const std::string& names) {
-        std::istringstream input(names);
-        for (std::string name; input >> name;) {
-            const std::string own_name = name.substr(0, name.find('='));
-            result.push_back({"total/" + total_group + '/' + own_name,
-                              item_group + '/' + name.substr(name.find('=') + 1)});
-        }
-    };
-    const std::string goods = "det[not(imposto/ISSQN)]";
-    const std::string service = "det[imposto/ISSQN]";
-    add("ICMSTot", "det/imposto/ICMS/*",
-        "vBC vICMS vICMSDeson vFCP vBCST vST=vICMSST vFCPST vFCPSTRet qBCMono vICMSMono "
-        "qBCMonoReten vICMSMonoReten qBCMonoRet vICMSMonoRet");
-    add("ICMSTot", "det/imposto/ICMSUFDest", "vFCPUFDest vICMSUFDest vICMSUFRemet");
-    add("ICMSTot", goods + "/prod[indTot=1]", "vProd");
-    add("ICMSTot", "det/prod", "vFrete vSeg vDesc vOutro");
-    add("ICMSTot", "det/imposto", "vII=II/vII vIPI=IPI/IPITrib/vIPI vTotTrib");
-    add("ICMSTot", "det/impostoDevol/IPI", "vIPIDevol");
-    add("ICMSTot", goods + "/imposto", "vPIS=PIS/*/vPIS vCOFINS=COFINS/*/vCOFINS");
-    add("ISSQNtot", service,
-        "vServ=prod/vProd vPIS=imposto/PIS/*/vPIS vCOFINS=imposto/COFINS/*/vCOFINS");
-    add("ISSQNtot", "det/imposto/ISSQN",
-        "vBC vISS=vISSQN vDeducao vOutro vDescIncond vDescCond vISSRet");
-    add("ISTot", "det/imposto/IS", "vIS");
-    const std::string ibs_cbs = "det/imposto/IBSCBS/gIBSCBS/";
-    add("IBSCBSTot", ibs_cbs + ".", "vBCIBSCBS=vBC gIBS/vIBS=vIBS");
-    const std::string rest = " vDif=gDif/vDif vDevTrib=gDevTrib/vDevTrib";
-    add("IBSCBSTot/gIBS/gIBSUF", ibs_cbs + "gIBSUF", "vIBSUF" + rest);
-    add("IBSCBSTot/gIBS/gIBSMun", ibs_cbs + "gIBSMun", "vIBSMun" + rest);
-    add("IBSCBSTot/gCBS", ibs_cbs + "gCBS", "vCBS" + rest);
-    const std::string credit = "det/imposto/IBSCBS/gCredPresOper/";
-    add("IBSCBSTot/gIBS", credit + "gIBSCredPres", "vCredPres vCredPresCondSus");
-    add("IBSCBSTot/gCBS", credit + "gCBSCredPres", "vCredPres vCredPresCondSus");
-    add("IBSCBSTot/gMono", "det/imposto/IBSCBS/gIBSCBSMono/*",
-        "vIBSMono vCBSMono vIBSMonoReten vCBSMonoReten vIBSMonoRet vCBSMonoRet");
-    return result;
-}
-
-// Catches an amount that lands in a neighbour's field in both directions.
-TEST(samples, sum_up_to_their_totals) {
-    const std::vector<total> all_totals = totals();
-    std::set<std::string> met;
-    for_each_written_sample([&](const pugi::xml_node& infnfe) {
-        for (const total& row : all_totals) {
-            const std::int64_t sum = sum_of(infnfe, row.items);
-            EXPECT_EQ(sum_of(infnfe, row.path), sum) << row.path;
-            if (sum != 0) {
-                met.insert(row.path);
-            }
-        }
-        const auto of_invoice = [&](const std::string& name) {
-            return sum_of(infnfe, "total/ICMSTot/" + name);
-        };
-        const std::int64_t invoice_total = of_invoice("vNF");
-        EXPECT_EQ(invoice_total,
-                  of_invoice("vProd") - of_invoice("vDesc") + of_invoice("vST") +
-                      of_invoice("vFCPST") + of_invoice("vICMSMonoReten") + of_invoice("vFrete") +
-                      of_invoice("vSeg") + of_invoice("vOutro") + of_invoice("vII") +
-                      of_invoice("vIPI") + of_invoice("vIPIDevol") +
-                      sum_of(infnfe, "total/ISSQNtot/vServ") -
-                      sum_of(infnfe, "det/imposto/ICMS/*[indDeduzDeson=1]/vICMSDeson"));
-        const std::int64_t to_pay =
-            infnfe.select_node("total/vNFTot") ? sum_of(infnfe, "total/vNFTot") : invoice_total;
-        if (!infnfe.select_node("pag/detPag[tPag=90]")) {
-            EXPECT_EQ(sum_of(infnfe, "pag/detPag/vPag") - sum_of(infnfe, "pag/vTroco"), to_pay);
-        }
-    });
-    met.insert("total/ICMSTot/vICMSUFRemet"); // the state of origin has had no share since 2019
-    for (const total& row : all_totals) {
-        EXPECT_TRUE(met.contains(row.path)) << row.path << " is 0 in all samples";
     }
 }
 

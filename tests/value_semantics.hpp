@@ -3,6 +3,7 @@
 #include "support/allocations.hpp"
 #include "support/kinds.hpp"
 #include "support/promises.hpp"
+#include "support/same_fields.hpp"
 #include "support/samples.hpp"
 
 #include <gtest/gtest.h>
@@ -60,7 +61,7 @@ TYPED_TEST_P(every_class, setting_one_field_leaves_the_others_alone) {
             }
             expected[index] = text(value);
             (object.*changed.set)(value);
-            EXPECT_EQ(texts(object), expected) << changed.setter_name;
+            EXPECT_TRUE(same_fields(object, expected)) << changed.setter_name;
             EXPECT_EQ(text(value), expected[index]) << changed.setter_name << " takes a copy";
         }
     });
@@ -78,7 +79,7 @@ TYPED_TEST_P(every_class, setting_an_absent_value_removes_it) {
                 }
                 expected[index] = "absent";
                 (object.*changed.set)(value());
-                EXPECT_EQ(texts(object), expected) << changed.setter_name;
+                EXPECT_TRUE(same_fields(object, expected)) << changed.setter_name;
             }
         }
     });
@@ -89,14 +90,14 @@ TYPED_TEST_P(every_class, copies_are_whole_and_share_nothing) {
     const auto expected = texts(sample<TypeParam>(1));
     std::optional<TypeParam> source = sample<TypeParam>(1);
     TypeParam copy = *source;
-    EXPECT_EQ(texts(copy), expected);
+    EXPECT_TRUE(same_fields(copy, expected));
     for_each_field<TypeParam>([&](const auto& field, std::size_t index) {
         using accessor = std::remove_cvref_t<decltype(field)>;
         ((*source).*field.set)(sample_for<TypeParam, accessor>(index, 2));
-        EXPECT_EQ(texts(copy), expected) << field.setter_name;
+        EXPECT_TRUE(same_fields(copy, expected)) << field.setter_name;
     });
     source.reset();
-    EXPECT_EQ(texts(copy), expected);
+    EXPECT_TRUE(same_fields(copy, expected));
 }
 
 // Catches a field that an assignment leaves out, and a value that stays where the source has none.
@@ -105,44 +106,44 @@ TYPED_TEST_P(every_class, assignment_replaces_every_field) {
         for (TypeParam target : {TypeParam(), sample<TypeParam>(2)}) {
             TypeParam moved_to = target;
             target = source;
-            EXPECT_EQ(texts(target), texts(source));
+            EXPECT_TRUE(same_fields(target, source));
             TypeParam moved_from = source;
             moved_to = std::move(moved_from);
-            EXPECT_EQ(texts(moved_to), texts(source));
+            EXPECT_TRUE(same_fields(moved_to, source));
         }
     }
 }
 
 // Catches an assignment that destroys its own source.
 TYPED_TEST_P(every_class, self_assignment_changes_nothing) {
-    TypeParam object = sample<TypeParam>(1);
+    auto object = sample<TypeParam>(1);
     const auto expected = texts(object);
     TypeParam& same = object;
     object = same;
-    EXPECT_EQ(texts(object), expected);
+    EXPECT_TRUE(same_fields(object, expected));
     if constexpr (lazy<TypeParam>) {
         object = std::move(same);
-        EXPECT_EQ(texts(object), expected);
+        EXPECT_TRUE(same_fields(object, expected));
     }
 }
 
 // Catches an eager move that steals the record, a lazy one that leaves it, and a move that copies.
 TYPED_TEST_P(every_class, moves_leave_what_the_kind_promises) {
-    const TypeParam original = sample<TypeParam>(1);
+    const auto original = sample<TypeParam>(1);
 
     TypeParam source = original;
     TypeParam target = std::move(source);
-    EXPECT_EQ(texts(target), texts(original));
-    EXPECT_EQ(texts(source), texts_after_a_move(original));
+    EXPECT_TRUE(same_fields(target, original));
+    EXPECT_TRUE(same_fields(source, texts_after_a_move(original)));
 
     source = original;
     target = sample<TypeParam>(2);
     target = std::move(source);
-    EXPECT_EQ(texts(target), texts(original));
-    EXPECT_EQ(texts(source), texts_after_a_move(original));
+    EXPECT_TRUE(same_fields(target, original));
+    EXPECT_TRUE(same_fields(source, texts_after_a_move(original)));
 
     source = original;
-    EXPECT_EQ(texts(source), texts(original)) << "a moved-from object can be filled again";
+    EXPECT_TRUE(same_fields(source, original)) << "a moved-from object can be filled again";
 }
 
 // Catches a swap that copies or forgets a side, and an empty handle that takes memory.
@@ -166,21 +167,21 @@ TYPED_TEST_P(every_class, empty_handles_allocate_nothing) {
             EXPECT_EQ(taken_blocks() - start, 2 * of_a_default) << field.setter_name;
         });
 
-        TypeParam full = sample<TypeParam>(1);
+        auto full = sample<TypeParam>(1);
         const auto expected = texts(full);
         const std::size_t filled = taken_blocks();
         full.swap(empty);
         EXPECT_EQ(taken_blocks(), filled);
-        EXPECT_EQ(texts(empty), expected);
-        EXPECT_EQ(texts(full), texts(TypeParam()));
+        EXPECT_TRUE(same_fields(empty, expected));
+        EXPECT_TRUE(same_fields(full, TypeParam()));
     }
 }
 
-// Catches a second allocation for the object itself, and a lost record.
+// Catches a lost record, and an object of more than its handle.
 TYPED_TEST_P(every_class, records_are_released) {
     const std::size_t before = live_blocks();
     {
-        TypeParam object = sample<TypeParam>(1);
+        auto object = sample<TypeParam>(1);
         TypeParam other = object;
         other = std::move(object);
         object = sample<TypeParam>(2);

@@ -58,7 +58,7 @@ template <class Value> std::string base_text(const Value& value) {
         core::v7::conversion_success) {
         return "none";
     }
-    return std::string(chars, length);
+    return {chars, length};
 }
 
 } // namespace kivo::tests

@@ -2,6 +2,8 @@
 
 #include <layout/xml_text.hpp>
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <stdexcept>
 
@@ -87,9 +89,9 @@ std::string runs_of(const text_rule& way, bool longest) {
 void add_decimals(std::vector<std::string>& result, const text_rule& way) {
     const std::string largest =
         way.largest != 0 ? std::to_string(way.largest) : repeated(way.whole, "9");
-    result.push_back("1");
+    result.emplace_back("1");
     if (way.bare_zero && !way.above_zero) {
-        result.push_back("0");
+        result.emplace_back("0");
     }
     result.push_back("1." + repeated(way.most, "0"));
     result.push_back(largest);
@@ -340,6 +342,7 @@ std::vector<element> large_documents() {
 
 void for_each_rule(const std::function<void(const element_rule&)>& visit) {
     for (const element_rule* rule = next(infnfe_rule()); rule != nullptr; rule = next(*rule)) {
+        SCOPED_TRACE(rule->path());
         visit(*rule);
     }
 }

@@ -66,9 +66,7 @@ template <class Value> Value sample(std::size_t number) {
         // the texts of one object differ in length too: their blocks tell them apart
         return "text " + std::to_string(number) + ", too long to stand in the string itself" +
                std::string(number % 64, '.');
-    } else if constexpr (std::is_enum_v<Value>) {
-        return static_cast<Value>(number % 251 + 1);
-    } else if constexpr (std::unsigned_integral<Value>) {
+    } else if constexpr (std::is_enum_v<Value> || std::unsigned_integral<Value>) {
         return static_cast<Value>(number % 251 + 1);
     } else if constexpr (std::same_as<Value, core::v7::monostate>) {
         return {};

@@ -188,27 +188,6 @@ void print_alternative(const surroundings& around, const fact& choice) {
     }
 }
 
-/// The name that a list shares with others, which stands around all of them in the map.
-template <class List, class... Entry> constexpr std::string_view shared_name(entries<Entry...>);
-template <class List, class Entry> constexpr std::string_view shared_name(types<Entry>) {
-    return {};
-}
-template <class List, characters Name, class... Lists>
-constexpr std::string_view shared_name(types<word::sorted_by_content<Name, Lists...>>) {
-    return (std::is_same_v<List, Lists> || ...) ? Name.view() : std::string_view();
-}
-template <class List, bool even_empty, characters Name, class... Entry>
-constexpr std::string_view shared_name(types<word::element<even_empty, Name, Entry...>>) {
-    return shared_name<List>(entries<Entry...>());
-}
-template <class List, class... Entry> constexpr std::string_view shared_name(entries<Entry...>) {
-    std::string_view result;
-    for (const std::string_view name : {shared_name<List>(types<Entry>())...}) {
-        result = name.empty() ? result : name;
-    }
-    return result;
-}
-
 template <class Map, class Entry> void print_entry(const surroundings& around) {
     fact told;
     if constexpr (requires { Entry::member; }) {
@@ -240,7 +219,8 @@ template <class Map, class Entry> void print_entry(const surroundings& around) {
             told.choice = is_optional<value> ? "optional choice" : "choice";
             print_alternatives<content_of<value>>(typename Entry::places(), around, told);
         } else if constexpr (is_word<word::list, Entry>) {
-            print_element<value>(around, shared_name<Entry>(Map::fields), told);
+            print_fact<value>(around, around.path, told);
+            print_map<map_of<content_of<value>>>({around.path});
         } else {
             static_assert(is_word<word::no_element, Entry>, "a word that the facts do not know");
             told.kind = "without element";

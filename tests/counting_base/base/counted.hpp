@@ -1,8 +1,13 @@
 #pragma once
 
+#include <base/converter.hpp>
+
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <string>
+#include <string_view>
 #include <vector>
 
 /// Base values of one word that count and log every operation, and throw when they are told to.
@@ -25,6 +30,7 @@ struct failure {};
 KIVO_SHARED std::vector<event>* log = nullptr; // null: nothing is logged
 KIVO_SHARED std::size_t live = 0;              // values that are not destroyed yet
 KIVO_SHARED std::size_t allowed = std::numeric_limits<std::size_t>::max(); // before a failure
+KIVO_SHARED bool failed = false;                                           // whether there was one
 
 #undef KIVO_SHARED
 
@@ -40,6 +46,7 @@ inline void note(operation what, std::uint64_t number) {
                                ? moves_may_throw
                                : what != operation::destroy;
     if (may_throw && allowed-- == 0) {
+        failed = true;
         throw failure();
     }
     if (log != nullptr) {
@@ -57,6 +64,9 @@ public:
         ++live;
     }
     counted() noexcept requires(by_default == construction::never_throws) { ++live; }
+#ifdef KIVO_COMPANION // it has values to read texts into
+    counted() requires(by_default == construction::none) : counted(0) {}
+#endif
     explicit counted(std::uint64_t number) : number_(number) { ++live; }
     counted(const counted& other) : number_(other.number_) {
         note(operation::copy, number_);
@@ -89,4 +99,47 @@ private:
     std::uint64_t number_ = 0;
 };
 
+/// The texts that were read, by the number of their values less one.
+inline std::vector<std::string>& texts() {
+    static std::vector<std::string> all;
+    return all;
+}
+
 } // namespace kivo::counting
+
+namespace kivo::core::v7 {
+
+/// A value has the text that it was read from.
+template <class Tag, counting::construction by_default>
+struct chars_converter<counting::counted<Tag, by_default>> {
+    static conversion_result make_chars(char* buffer, std::size_t& length,
+                                        counting::counted<Tag, by_default> value) {
+        if (value.number() == 0) {
+            return conversion_invalid;
+        }
+        const std::string& text = counting::texts().at(value.number() - 1);
+        if (length < text.size()) {
+            return conversion_buffer_too_small;
+        }
+        length = text.copy(buffer, text.size());
+        return conversion_success;
+    }
+};
+
+template <class Tag, counting::construction by_default>
+struct value_converter<counting::counted<Tag, by_default>> {
+    static conversion_result make_value(counting::counted<Tag, by_default>& value, const char* text,
+                                        std::size_t length) {
+        std::vector<std::string>& all = counting::texts();
+        const std::string_view wanted(text, length);
+        const auto known = std::find(all.begin(), all.end(), wanted);
+        const auto number = static_cast<std::uint64_t>(known - all.begin()) + 1;
+        if (known == all.end()) {
+            all.emplace_back(wanted);
+        }
+        value = counting::counted<Tag, by_default>(number);
+        return conversion_success;
+    }
+};
+
+} // namespace kivo::core::v7
