@@ -13,7 +13,7 @@ namespace {
 /// What a recipient signs and the carrier brings back.
 void add_receipt_slip(markup form, const form_source& from) {
     const markup slip = add(form, "section", "slip");
-    const markup words = add(slip, "div");
+    const markup words = add(slip, "div", "slip-words");
     add_text(words, "p",
              say("RECEIVED FROM {} THE GOODS AND SERVICES OF THE ELECTRONIC INVOICE BELOW",
                  from.invoice.get_emitente().get_razao_social()));
@@ -102,7 +102,7 @@ void add_payments(markup form, const fiscal::nota_fiscal& invoice) {
         constexpr unsigned width = 8;
         const auto terms = part.get_indicador_forma_pagamento();
         payments.push_back(
-            {tr("PAYMENT"),
+            {tr("MEANS OF PAYMENT"),
              joined({name_of(part.get_meio_pagamento()),
                      part.get_descricao_meio_pagamento().value_or(""), terms ? name_of(*terms) : "",
                      day(part.get_data_pagamento()), amount(part.get_valor_pagamento())}),

@@ -12,7 +12,10 @@ namespace {
 using fiscal::produto;
 
 std::vector<std::string> figures(const produto& item, bool has_reform) {
-    const item_tax operation = tax_on_operation(item);
+    item_tax operation = tax_on_operation(item);
+    if (operation.situation == "ISSQN") {
+        operation = {operation.situation, {}}; // its amounts are none of ICMS
+    }
     const item_tax ipi = ipi_of(item);
     std::vector<std::string> texts = {item.get_codigo_produto(),
                                       item.get_descricao(),
@@ -60,10 +63,10 @@ void add_danfe_items(markup form, const std::vector<produto>& items) {
                                         {tr("O/CST")},
                                         {"CFOP"},
                                         {tr("UNIT")},
-                                        {tr("QUANTITY"), true},
+                                        {tr("QTY"), true},
                                         {tr("UNIT VALUE"), true},
                                         {tr("TOTAL VALUE"), true},
-                                        {tr("DISCOUNT"), true},
+                                        {tr("DISC."), true},
                                         {tr("ICMS BASE"), true},
                                         {tr("ICMS VALUE"), true},
                                         {tr("IPI VALUE"), true},

@@ -13,6 +13,27 @@ std::string amount_or_zero(const optional<fiscal::decimal>& value) {
     return amount(value.value_or(fiscal::decimal()));
 }
 
+/// Totals that few invoices have: those that are not zero.
+void add_rare_totals(markup part, const fiscal::total_nfe_icms& icms) {
+    std::vector<form_field> fields;
+    const auto add_field = [&](const char* label, const optional<fiscal::decimal>& value) {
+        if (value && *value != fiscal::decimal()) {
+            fields.push_back({label, amount(*value), sixth, true});
+        }
+    };
+    add_field(tr("ICMS RELIEVED"), icms.get_total_desonerado());
+    add_field(tr("FCP ST"), icms.get_total_fcp_retido());
+    add_field(tr("FCP ST WITHHELD BEFORE"), icms.get_total_fcp_retido_anteriormente());
+    add_field(tr("FCP OF THE DESTINATION"), icms.get_total_icms_fcp());
+    add_field(tr("MONOPHASIC ICMS"), icms.get_total_icms_monofasico());
+    add_field(tr("ICMS SUBJECT TO WITHHOLDING"), icms.get_total_icms_monofasico_retencao());
+    add_field(tr("ICMS WITHHELD BEFORE"), icms.get_total_icms_monofasico_retido());
+    add_field(tr("IPI RETURNED"), icms.get_total_ipi_devolvido());
+    if (!fields.empty()) {
+        add_fields(part, fields);
+    }
+}
+
 void add_withheld(markup form, const fiscal::total_nfe_retencao_tributos& total) {
     add_fields(
         add_part(form, tr("TAXES WITHHELD")),
@@ -51,6 +72,7 @@ void add_danfe_totals(markup form, const fiscal::total_nfe& totals) {
          {tr("VALUE OF THE PIS"), amount(icms.get_total_imposto_pis()), sixth, true},
          {tr("VALUE OF THE COFINS"), amount(icms.get_total_imposto_confins()), sixth, true},
          {tr("ALL TAXES, ESTIMATED"), amount(icms.get_total_dos_tributos_do_item()), sixth, true}});
+    add_rare_totals(part, icms);
     if (const auto withheld = totals.get_total_nfe_retencao_tributos()) {
         add_withheld(form, *withheld);
     }

@@ -95,7 +95,8 @@ std::string paper_style(const form_source& from) {
     });
     return fmt::format("@page{{@bottom-left{{content:\"{}  {}\"}}"
                        "@bottom-right{{content:\"{} \" counter(page) \"/\" counter(pages)}}}}",
-                       form_number(from.invoice.get_numero()), nfe_summary::key(key), tr("SHEET"));
+                       say("No. {}", form_number(from.invoice.get_numero())), nfe_summary::key(key),
+                       tr("SHEET"));
 }
 
 } // namespace

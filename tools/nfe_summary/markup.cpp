@@ -28,7 +28,8 @@ void set(markup element, const char* attribute, std::string_view text) {
 void add_drawing(markup parent, const bars& drawn, const char* name, const char* style_class) {
     const markup drawing = add(parent, "svg", style_class);
     set(drawing, "viewBox",
-        fmt::format("{} {} {} {}", -drawn.margin, 0, drawn.width + 2 * drawn.margin, drawn.height));
+        fmt::format("{0} {0} {1} {2}", -drawn.margin, drawn.width + 2 * drawn.margin,
+                    drawn.height + 2 * drawn.margin));
     set(drawing, "preserveAspectRatio", "none");
     set(drawing, "role", "img");
     set(drawing, "aria-label", name);
