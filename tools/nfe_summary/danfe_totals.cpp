@@ -16,19 +16,19 @@ std::string amount_or_zero(const optional<fiscal::decimal>& value) {
 /// Totals that few invoices have: those that are not zero.
 void add_rare_totals(markup part, const fiscal::total_nfe_icms& icms) {
     std::vector<form_field> fields;
-    const auto add_field = [&](const char* label, const optional<fiscal::decimal>& value) {
+    const auto add_rare = [&](const char* label, const optional<fiscal::decimal>& value) {
         if (value && *value != fiscal::decimal()) {
             fields.push_back({label, amount(*value), sixth, true});
         }
     };
-    add_field(tr("ICMS RELIEVED"), icms.get_total_desonerado());
-    add_field(tr("FCP ST"), icms.get_total_fcp_retido());
-    add_field(tr("FCP ST WITHHELD BEFORE"), icms.get_total_fcp_retido_anteriormente());
-    add_field(tr("FCP OF THE DESTINATION"), icms.get_total_icms_fcp());
-    add_field(tr("MONOPHASIC ICMS"), icms.get_total_icms_monofasico());
-    add_field(tr("ICMS SUBJECT TO WITHHOLDING"), icms.get_total_icms_monofasico_retencao());
-    add_field(tr("ICMS WITHHELD BEFORE"), icms.get_total_icms_monofasico_retido());
-    add_field(tr("IPI RETURNED"), icms.get_total_ipi_devolvido());
+    add_rare(tr("ICMS RELIEVED"), icms.get_total_desonerado());
+    add_rare(tr("FCP ST"), icms.get_total_fcp_retido());
+    add_rare(tr("FCP ST WITHHELD BEFORE"), icms.get_total_fcp_retido_anteriormente());
+    add_rare(tr("FCP OF THE DESTINATION"), icms.get_total_icms_fcp());
+    add_rare(tr("MONOPHASIC ICMS"), icms.get_total_icms_monofasico());
+    add_rare(tr("ICMS SUBJECT TO WITHHOLDING"), icms.get_total_icms_monofasico_retencao());
+    add_rare(tr("ICMS WITHHELD BEFORE"), icms.get_total_icms_monofasico_retido());
+    add_rare(tr("IPI RETURNED"), icms.get_total_ipi_devolvido());
     if (!fields.empty()) {
         add_fields(part, fields);
     }
