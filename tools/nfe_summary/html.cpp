@@ -6,7 +6,6 @@
 
 #include <fmt/format.h>
 
-#include <cctype>
 #include <sstream>
 
 namespace nfe_summary {
@@ -87,12 +86,9 @@ void add_warnings(markup sheet, const form_source& from) {
     }
 }
 
-/// What stands below each sheet of paper. Only letters and digits of the key may be in a style.
+/// What stands below each sheet of paper. No more of a file than a key may be in a style.
 std::string paper_style(const form_source& from) {
-    std::string key = from.told.key;
-    std::erase_if(key, [](unsigned char character) {
-        return character >= 0x80 || std::isalnum(character) == 0;
-    });
+    const std::string key = key_bars(from.told.key) ? nfe_summary::key(from.told.key) : "";
     return fmt::format("@page{{@bottom-left{{content:\"{}  {}\"}}"
                        "@bottom-right{{content:\"{} \" counter(page) \"/\" counter(pages)}}}}",
                        say("No. {}", form_number(from.invoice.get_numero())), nfe_summary::key(key),
