@@ -66,7 +66,7 @@ class Page(html.parser.HTMLParser):
         sys.exit(f'a comment: {data}')
 
 
-def picture(view, path, scale=4):
+def picture(view, path, scale=2):
     """The drawing as a picture of the PGM format."""
     left, top, width, height = (int(number) for number in view.split())
     rows = [bytearray(b'\xff' * width) for _ in range(height)]

@@ -11,7 +11,6 @@ namespace nfe_summary {
 
 /// What a form is filled from: the objects, and the document for what has no field.
 struct form_source {
-    const layout::tree& tree;
     const layout::node& infnfe;
     const fiscal::nota_fiscal& invoice;
     const surveyed& told;

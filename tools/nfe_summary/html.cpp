@@ -99,7 +99,7 @@ std::string paper_style(const form_source& from) {
 
 std::string html_of(const layout::tree& tree, const layout::invoice_document& document,
                     const surveyed& told) {
-    const form_source from{tree, layout::invoice_in(tree), document.invoice, told};
+    const form_source from{layout::invoice_in(tree), document.invoice, told};
     const bool is_receipt = document.invoice.get_modelo_emissao() == "65";
 
     pugi::xml_document page;

@@ -102,12 +102,9 @@ void add_answer(markup form, const form_source& from) {
 }
 
 void add_look_up(markup form, const form_source& from) {
-    const auto told = [&](const char* path) {
-        return std::string(layout::text_at(from.tree.root(), path));
-    };
-    const bool bare = from.tree.root().name == "NFe";
-    const std::string url = told(bare ? "infNFeSupl/urlChave" : "NFe/infNFeSupl/urlChave");
-    const std::string code = told(bare ? "infNFeSupl/qrCode" : "NFe/infNFeSupl/qrCode");
+    const layout::node& nfe = *(&from.infnfe - from.infnfe.up);
+    const std::string url(layout::text_at(nfe, "infNFeSupl/urlChave"));
+    const std::string code(layout::text_at(nfe, "infNFeSupl/qrCode"));
     const markup part = add(form, "section");
     add_text(part, "b", tr("Look it up by its access key at"));
     add_text(part, "p", url);
