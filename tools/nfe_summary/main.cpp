@@ -16,11 +16,13 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
 #include <deque>
 #include <exception>
 #include <stdexcept>
 #include <string>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -290,6 +292,10 @@ int parse_and_run(int argc, char** argv) {
         return run(read_arguments(argc, argv));
     } catch (const usage_error& wrong) {
         complain(say("{}; --help tells more", wrong.what()));
+    } catch (const std::system_error& failure) { // its words are in the locale's encoding
+        const std::string reason = system_reason(failure.code().value());
+        complain(std::ferror(stdout) != 0 ? say("the output cannot be written: {}", reason)
+                                          : reason);
     } catch (const std::exception& failure) {
         complain(failure.what());
     }
@@ -303,7 +309,8 @@ int parse_and_run(int argc, char** argv) {
 int main(int argc, char** argv) {
     const int status = nfe_summary::parse_and_run(argc, argv);
     if (std::fclose(stdout) != 0) {
-        nfe_summary::complain(nfe_summary::tr("the output cannot be written"));
+        nfe_summary::complain(nfe_summary::say("the output cannot be written: {}",
+                                               nfe_summary::system_reason(errno)));
         return nfe_summary::trouble;
     }
     return status;
