@@ -15,18 +15,17 @@
 
 namespace nfe_summary {
 
-namespace {
-
-constexpr std::size_t megabyte = 1024 * 1024;
-
-/// A reason of the system in the chosen language.
-std::string reason(int error) {
+std::string system_reason(int error) {
     const char* const known = strerrordesc_np(error);
     return translated(known == nullptr ? std::to_string(error) : known);
 }
 
+namespace {
+
+constexpr std::size_t megabyte = 1024 * 1024;
+
 [[noreturn]] void fail(int error) {
-    throw std::runtime_error(say("cannot be read: {}", reason(error)));
+    throw std::runtime_error(say("cannot be read: {}", system_reason(error)));
 }
 
 class open_file {
@@ -131,7 +130,7 @@ bool add_files(const std::filesystem::path& folder, std::vector<std::string>& pa
         }
     }
     if (error) {
-        complain(folder.native(), say("cannot be read: {}", reason(error.value())));
+        complain(folder.native(), say("cannot be read: {}", system_reason(error.value())));
     }
     for (const std::filesystem::path& inner : folders) { // one folder is open at a time
         complete = add_files(inner, paths) && complete;
