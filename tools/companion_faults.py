@@ -17,6 +17,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 SURVIVED, INVALID = "survived", "no program"
 MAP = "static constexpr entries fields{"
 FACTS = "fields_agree.py"
+QUICK = ("document_round_trip_tests", "documents.*:*ride_along*:*each_text*:*exclude*:*nothing_knows*")
 
 
 def masked(text, strings=True):
@@ -187,7 +188,38 @@ def faults_in(text, path, folder):
         for what, faulty in make(text):
             line = next(number for number, (one, other) in enumerate(itertools.zip_longest(
                 text.split("\n"), faulty.split("\n")), 1) if one != other)
-            yield folder, kind, f"{path}:{line}: {what}", {path: faulty}
+            yield folder, kind, f"{path}:{line}: {' '.join(what.split())}", {path: faulty}
+
+
+LISTED_FAULTS = {  # file, what stands there, and what is wrong instead
+    "layout": [
+        ("layout/xml.cpp", 'document.add("@xmlns", "http://www.portalfiscal.inf.br/nfe");', ""),
+        ("layout/text.cpp", " || stop != end ||", " ||"),
+        ("layout/xml_text.cpp", "= pugi::parse_default |",
+         "= (pugi::parse_default & ~pugi::parse_cdata) |"),
+        ("layout/xml_text.cpp", "std::string whole(text);", "std::string whole;"),
+        ("layout/xml_text.cpp", "pugi::parse_ws_pcdata_single |", ""),
+    ],
+    "tools": [
+        ("tools/nfe_summary/main.cpp", "refused.empty() ? all_well : something_told",
+         "refused.empty() ? all_well : all_well"),
+        ("tools/nfe_summary/main.cpp", "(made.status, something_told)", "(made.status, all_well)"),
+        ("tools/nfe_summary/main.cpp", "return nfe_summary::trouble;", ""),
+        ("tools/nfe_summary/main.cpp", "std::fclose(stdout) != 0", "false"),
+        ("tools/nfe_summary/main.cpp", "files.complete ? status : trouble", "status"),
+        ("tools/nfe_summary/text.cpp", "    case UTF8PROC_CATEGORY_ZL:\n", ""),
+        ("tools/nfe_summary/text.cpp", "    case UTF8PROC_CATEGORY_CF:\n", ""),
+    ],
+}
+
+
+def listed_faults(folder):
+    for path, old, new in LISTED_FAULTS[folder]:
+        text = (ROOT / path).read_text()
+        if old not in text:
+            raise ValueError(f"{path} no longer holds: {old}")
+        yield (folder, "a fault of the list", f"{path}: {old.strip()} -> {new.strip()}",
+               {path: text.replace(old, new, 1)})
 
 
 def companion_mutants(folder):
@@ -195,6 +227,7 @@ def companion_mutants(folder):
     for file in sorted((ROOT / {"layout": "layout", "tools": "tools/nfe_summary"}[folder]).glob("*.?pp")):
         if file.name != "manual.cpp":  # what it makes is a page
             yield from faults_in(file.read_text(), str(file.relative_to(ROOT)), folder)
+    yield from listed_faults(folder)
 
 
 class CompanionBuild:
@@ -303,19 +336,21 @@ class CompanionWorker:
             targets = ["nfe_summary_parts"]
             tests = ["nfe_summary.sh", "tool_tests", "translations.sh"]
         elif MAP in text and path != "layout/map.hpp":
-            tests = [FACTS, "invoice_tests", "document_round_trip_tests"]
+            tests = [FACTS, "invoice_tests", QUICK, "document_round_trip_tests"]
         else:
-            tests = ["invoice_tests", "layout_tests", "document_round_trip_tests", "nfe_summary.sh",
-                     "tool_tests", "companion_failure_tests", FACTS]
+            tests = ["invoice_tests", "layout_tests", QUICK, "nfe_summary.sh", "tool_tests",
+                     "companion_failure_tests", FACTS, "document_round_trip_tests"]
             if re.match(r"layout/(check|element|access|protocol|envelope|text\.)", path):
                 tests[:2] = ["layout_tests", "invoice_tests"]
         for test in tests:
-            passed = self.passes(test, path, targets)
+            name, only = (test, "*") if isinstance(test, str) else test
+            passed = self.passes(name, only, path,
+                                 [] if name == FACTS and tests[0] == FACTS else targets)
             if not passed:
-                return INVALID if passed is None else test
+                return INVALID if passed is None else name
         return SURVIVED
 
-    def passes(self, test, path, targets):
+    def passes(self, test, only, path, targets):
         """Whether a test passes; None where there is no program."""
         program = self.linked(
             "tools/layout_facts/layout_facts" if test == FACTS else
@@ -337,4 +372,5 @@ class CompanionWorker:
             arguments = ([program, ROOT / "examples/data"] if test == "nfe_summary.sh" else
                          [self.overlay / "tools/nfe_summary", program])
             return self.succeeds(ROOT / "tests" / test, *arguments, quiet=True)
-        return self.succeeds(program, "--gtest_brief=1", "--gtest_fail_fast")
+        return self.succeeds(program, "--gtest_brief=1", "--gtest_fail_fast",
+                             f"--gtest_filter={only}")

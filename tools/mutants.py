@@ -225,6 +225,24 @@ CHOICE_FAULTS = [  # the same of produto.cpp
     ("*choice = *value;", "choice = especifico(*value);"),
     ("if (!value) {", "if (value) {"),
 ]
+BASE_FAULTS = [  # file, what stands there, and what is wrong instead
+    ("base/datetime.hpp", "operator==(datetime, datetime) noexcept = default;",
+     "operator==(datetime left, datetime right) noexcept {\n"
+     "return (left.word_ | 63 << 11) == (right.word_ | 63 << 11);\n}"),
+    ("base/datetime.hpp", "operator==(datetime, datetime) noexcept = default;",
+     "operator==(datetime left, datetime right) noexcept {\n"
+     "return left.word_ >> 11 == right.word_ >> 11;\n}"),
+    ("base/decimal.hpp", "return left.without_trailing_zeros() == right.without_trailing_zeros();",
+     "auto one = std::uint64_t(left.coefficient()), other = std::uint64_t(right.coefficient());\n"
+     "for (unsigned place = 0; place < right.scale(); ++place) { one *= 10; }\n"
+     "for (unsigned place = 0; place < left.scale(); ++place) { other *= 10; }\n"
+     "return one == other;"),
+    ("base/decimal.hpp", "{first, static_cast<std::size_t>(end - first)}, buffer, length);",
+     "{first, static_cast<std::size_t>(end - first)}, buffer,\n"
+     "end - first == 19 && length == 18 ? length = 19 : length);"),
+    ("base/decimal.hpp", "        if (coefficient < 0) {",
+     "        if (coefficient < 0 && end - first < 18) {"),
+]
 REPLACEMENT_FAULTS = [  # the same of choice.hpp
     ("stored.index() == value.index() || ", ""),
     ("stored.index() == value.index() ||", "true ||"),
@@ -264,6 +282,9 @@ def all_mutants(classes):
                                ("a fault in the choices", "fiscal/produto.cpp", CHOICE_FAULTS),
                                ("a fault in the choices", "fiscal/choice.hpp", REPLACEMENT_FAULTS)]:
         yield from (("fiscal", kind, what, texts) for what, texts in listed_faults(path, faults))
+    for path, old, new in BASE_FAULTS:
+        yield from (("base", "a fault of the list", f"{path}: {what}", texts)
+                    for what, texts in listed_faults(path, [(old, new)]))
 
 
 class Build:
@@ -441,10 +462,13 @@ def main():
         return (of_classes if inside else of_companion).attempt(texts)
 
     # what is no fault has to survive
-    for path in ("base/decimal.hpp", "fiscal/produto.cpp", "fiscal/produto.hpp", "fiscal/handle.hpp",
-                 "layout/payment.hpp", "layout/protocol.cpp", "tools/nfe_summary/table.cpp"):
-        if path.split("/")[0] in options.folders:
-            outcome = attempt(0, {path: (ROOT / path).read_text()})
+    sound = [path for path in ("base/decimal.hpp", "fiscal/produto.cpp", "fiscal/produto.hpp",
+                               "fiscal/handle.hpp", "layout/payment.hpp", "layout/protocol.cpp",
+                               "tools/nfe_summary/table.cpp") if path.split("/")[0] in options.folders]
+
+    def survive(number):
+        for path in sound[number::len(workers)]:
+            outcome = attempt(number, {path: (ROOT / path).read_text()})
             if outcome != SURVIVED:
                 sys.exit(f"mutants: the unchanged {path}: {outcome}")
 
@@ -458,8 +482,9 @@ def main():
             print(f"{outcome:26} {time.monotonic() - begin:4.0f} s  {kind}: {what}", flush=True)
 
     with concurrent.futures.ThreadPoolExecutor(len(workers)) as pool:
-        for done in [pool.submit(work, number) for number in range(len(workers))]:
-            done.result()
+        for step in (survive, work):
+            for done in [pool.submit(step, number) for number in range(len(workers))]:
+                done.result()
     made = [(outcome, kind) for outcome, kind in results if outcome != INVALID]
     found = [(outcome, kind) for outcome, kind in made if outcome != SURVIVED]
     print(f"\n{'folder':8} {'fault':32} {'possible':>8} {'made':>6} {'found':>6}")
