@@ -21,7 +21,7 @@ import subprocess
 import sys
 import time
 
-from companion_faults import CompanionBuild, CompanionWorker, companion_mutants
+from companion_faults import WHOLE, CompanionBuild, CompanionWorker, companion_mutants
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 LIBRARY = "kivo-erp-fiscal"
@@ -425,7 +425,8 @@ def chosen_mutants(classes, options):
     made = []
     if {"fiscal", "base"} & set(options.folders):
         made.append(all_mutants(itertools.chain.from_iterable(classes.values())))
-    made += [companion_mutants(folder) for folder in ("layout", "tools") if folder in options.folders]
+    made += [companion_mutants(folder) for folder in ("layout", "tools")
+             if folder in options.folders]
     kinds = collections.defaultdict(list)
     for mutant in itertools.chain.from_iterable(made):
         folder, kind, what, _ = mutant
@@ -456,19 +457,20 @@ def main():
     workers = [(Worker(build, number, classes), CompanionWorker(companion, number))
                for number in range(os.cpu_count() or 1)]
 
-    def attempt(number, texts):
+    def attempt(number, texts, **how):
         of_classes, of_companion = workers[number]
         inside = next(iter(texts)).startswith(("fiscal/", "base/"))
-        return (of_classes if inside else of_companion).attempt(texts)
+        return of_classes.attempt(texts) if inside else of_companion.attempt(texts, **how)
 
     # what is no fault has to survive
     sound = [path for path in ("base/decimal.hpp", "fiscal/produto.cpp", "fiscal/produto.hpp",
                                "fiscal/handle.hpp", "layout/payment.hpp", "layout/protocol.cpp",
-                               "tools/nfe_summary/table.cpp") if path.split("/")[0] in options.folders]
+                               "tools/nfe_summary/table.cpp")
+             if path.split("/")[0] in options.folders]
 
     def survive(number):
         for path in sound[number::len(workers)]:
-            outcome = attempt(number, {path: (ROOT / path).read_text()})
+            outcome = attempt(number, {path: (ROOT / path).read_text()}, without=WHOLE)
             if outcome != SURVIVED:
                 sys.exit(f"mutants: the unchanged {path}: {outcome}")
 
