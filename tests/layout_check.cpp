@@ -491,8 +491,9 @@ TEST(checked_texts, follow_their_form) {
           "kobUrRvCy5w9SLWp/X5sCf7QbT1=", "kobUrRvCy5w9SLWp/X5sCf7QbQ==",
           "kobUrRvCy5w9SLWp*X5sCf7QbT0=", "kobUrRvCy5w9SLWp/X5sCf7QbT0=A"}},
         {"infPAA/PAASignature/SignatureValue",
-         {"", "AA==", "AAA=", "AAAA", "+/Ag", "Ag==", "A0A="},
-         {"A", "AA=", "AA", "=", "AB==", "AAAAA", "A===", "====", "AA=A", "A+==", "AA/="}},
+         {"", "AA==", "AAA=", "AAAA", "+/Ag", "Ag==", "A0A=", "ZaAz", "0z9Z"},
+         {"A", "AA=", "AA", "=", "AB==", "AAAAA", "A===", "====", "AA=A", "A+==", "AA/=", "@AAA",
+          "[AAA", "`AAA", "{AAA", ":AAA", ",AAA", ".AAA"}},
         {"ide", {}, {"", "x"}},
     };
     for (const auto& row : rows) {

@@ -87,6 +87,10 @@ shows '4126 0899 3174 8200 0175 5500 1000 0186 4214 0917 3560' '12/08/2026 13:45
     'entrega/xNome, entrega/fone, entrega/email, entrega/IE'
 run 0 '271.828.182-05' "$data/nfce.xml"
 run 0 'Authorisation   none in the file' "$data/export.xml"
+run 0 'Environment     test, without fiscal value' "$data/selective-tax.xml"
+run 0 'Key                                           Number' --width 200 "$data"
+run 0 '1  a field cannot hold a text of the file' --help
+shows '0  all is well' '2  a file cannot be read'
 
 # No width is exceeded, and columns stand below each other, accents or not.
 for width in 40 66 80 120; do
@@ -94,6 +98,13 @@ for width in 40 66 80 120; do
     ! grep -E "^.{$((width + 1))}" "$folder/out" || fault "wider than $width"
     tr -s ' \n' ' ' < "$folder/out" | grep -qF 'Base de cálculo do ICMS reduzida; garantia de 12 meses' ||
         fault "text is lost at $width"
+done
+for width in {60..110}; do # a column has its place or is told
+    run 0 'Invoice total' --width "$width" "$data/nfe.xml"
+    told=$(sed -n '/^#  Code/{n;p}; /^Products/q; /(no place for: /,/)$/p' "$folder/out" | tr -s '(),\n ' ' ')
+    for column in NCM IPI PIS+COFINS IBS+CBS; do
+        [ "$(grep -oF " $column " <<< "$told " | wc -l)" = 1 ] || fault "$width: $column in $told"
+    done
 done
 run 0 'Sabão em barra desengraxante para oficina, 1 kg, sem perfume  ' --width 180 "$data/nfe.xml"
 before_unit=$(sed -n 's/Unit .*//p' "$folder/out")
@@ -147,6 +158,10 @@ run 1 'emit/CNPJ: "12" is not a CNPJ' --json "$folder/refused.xml"
 sed 's|<nNF>|<nNF>00|' "$data/difal.xml" > "$folder/changed.xml"
 run 0 'ide/nNF: "0055120" is written as "55120"' "$folder/changed.xml"
 
+sed "s|<natOp>|$(printf '<x%s/>' {1..24})&|" "$data/nfce.xml" > "$folder/unknown.xml"
+run 0 'and 4 more' --width 80 "$folder/unknown.xml"
+[ "$(grep -c 'has no such element' "$folder/out")" = 20 ] || fault 'a long list is not cut'
+
 # Nothing is lost on the way to another program, nor on the way back.
 for name in icms-normal ibs-cbs-regular nfce; do
     file=$data/$name.xml
@@ -156,6 +171,7 @@ for name in icms-normal ibs-cbs-regular nfce; do
     cp "$folder/out" "$folder/written.xml"
     diff "$folder/expected" <(elements "$folder/written.xml") || fault "$name: --xml differs"
     run 0 '"texts"' --json "$file"
+    [ "$(wc -l < "$folder/out")" -gt 100 ] || fault "$name: no line for a text"
     cp "$folder/out" "$folder/written.json"
     diff <(sed -n 's|^<[^>]*>\([^<]*\)</.*|\1|p' "$folder/expected") \
         <(jq -r '.texts[] | select(.path | contains("@") | not).text' "$folder/out") ||
