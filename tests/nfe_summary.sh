@@ -200,7 +200,7 @@ shows '<NCM>01012100</NCM>' '<cEAN>0078900</cEAN>' '<NCM>02</NCM>'
 cat "$folder/records.json" "$folder/records.json" > "$folder/lines.json"
 run 2 'holds 2 invoices, where one is asked for' --xml "$folder/lines.json"
 for text in '{' '[1]' '{"texts": 1}' '[{"path": "a b", "text": ""}]' '[{"path": "a", "text": 1}]' \
-    '[{"path": "a<b", "text": ""}]' '{"root": "x", "texts": []}' '[{"path": "a[0]", "text": ""}]' \
+    '[{"path": "a<b", "text": ""}]' '[{"path": "a{b", "text": ""}]' '[{"path": "a`b", "text": ""}]' '{"root": "x", "texts": []}' '[{"path": "a[0]", "text": ""}]' \
     "[{\"path\": \"$(printf '%0200000d' 0 | sed 's|0|a/|g')\", \"text\": \"\"}]" \
     "$(printf '%0200000d' 0 | tr 0 '[')"; do
     run 2 'not what --json writes' --xml - <<< "$text"
