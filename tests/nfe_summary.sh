@@ -154,7 +154,9 @@ done
 sed '/<emit>/,/<\/emit>/s|<CNPJ>[^<]*</CNPJ>|<CNPJ>12</CNPJ>|' "$data/difal.xml" > "$folder/refused.xml"
 run 1 'emit/CNPJ: "12" is not a CNPJ' "$folder/refused.xml"
 shows 'Blumenau - SC' 'Doubtful        the key has 99157340000198 where emit/CNPJ is 00000000000012'
-run 1 'emit/CNPJ: "12" is not a CNPJ' --json "$folder/refused.xml"
+for how in --json --xml; do
+    run 1 'emit/CNPJ: "12" is not a CNPJ' $how "$folder/refused.xml"
+done
 sed 's|<nNF>|<nNF>00|' "$data/difal.xml" > "$folder/changed.xml"
 run 0 'ide/nNF: "0055120" is written as "55120"' "$folder/changed.xml"
 
@@ -305,12 +307,14 @@ assert [row['counted'] for row in rows] == ['1', '0'], rows
 assert (rows[0]['vNF'], rows[0]['vIPI'], rows[0]['status']) == ('17301.39', '375.68', 'authorised')
 assert all(None not in row and None not in row.values() for row in rows)
 PYTHON
+run 0 ',,,1308.00' --csv "$data/medicine.xml" # neither IBS nor CBS
 run 0 'nItem' --csv --items "$data/nfe.xml" "$data/medicine.xml"
 python3 - "$folder/out" <<'PYTHON' || fault 'other CSV of items'
 import csv, sys
 rows = list(csv.DictReader(open(sys.argv[1], newline='', encoding='utf-8')))
 assert [row['nItem'] for row in rows][:4] == ['1', '2', '3', '4']
 first = rows[0]
+assert rows[-1]['vIBS'] == rows[-1]['vCBS'] == '', rows[-1]
 assert (first['NCM'], first['CFOP'], first['vProd'], first['vIPI']) == ('84672100', '6101', '4678.80', '375.68')
 assert (first['ICMS_CST'], first['vPIS'], first['vIBS']) == ('000', '68.19', '3.75')
 assert all(None not in row and None not in row.values() for row in rows)
