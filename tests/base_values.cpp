@@ -97,7 +97,8 @@ void expect_refusals(std::string_view good, std::initializer_list<std::string_vi
 TEST(base_values, decimal) {
     expect_round_trips<decimal>({"0", "7", "-7", "1234.56", "1.50", "-0.5", "0.00", "0.05",
                                  "10.000", "0.000000000000001", "-0.000000000000001",
-                                 "99.999999999999999", "99999999999999999", "-99999999999999999"});
+                                 "99.999999999999999", "-99.999999999999999", "99999999999999999",
+                                 "-99999999999999999"});
     expect_refusals<decimal>("1234.56", {"",
                                          "-",
                                          ".",
@@ -133,6 +134,8 @@ TEST(base_values, decimals_compare_as_numbers) {
     EXPECT_NE(value_of<decimal>("1.5"), value_of<decimal>("-1.5"));
     EXPECT_NE(value_of<decimal>("10"), value_of<decimal>("1"));
     EXPECT_NE(value_of<decimal>("99999999999999999"), value_of<decimal>("0.000000000000001"));
+    // 2 to the power of 49, which times 10 to the power of 15 is 0 in 64 bits
+    EXPECT_NE(value_of<decimal>("562949953421312"), value_of<decimal>("0.000000000000000"));
 }
 
 // Catches a limit of the parts that is off by one.
@@ -213,6 +216,12 @@ TEST(base_values, datetime) {
     EXPECT_NE(value_of<datetime>("2026-11-24T12:00:00-03:00"),
               value_of<datetime>("2026-11-24T15:00:00+00:00"))
         << "the offset is part of the value";
+    for (const char* const other :
+         {"2026-11-25T08:30:15-03:45", "2026-11-24T09:30:15-03:45", "2026-11-24T08:31:15-03:45",
+          "2026-11-24T08:30:16-03:45", "2026-11-24T08:30:15+03:45", "2026-11-24T08:30:15-04:45",
+          "2026-11-24T08:30:15-03:44"}) {
+        EXPECT_NE(value_of<datetime>("2026-11-24T08:30:15-03:45"), value_of<datetime>(other));
+    }
     const auto time = value_of<datetime>("2026-11-24T08:30:15-03:45");
     EXPECT_EQ(time.day(), value_of<date>("2026-11-24"));
     EXPECT_EQ(datetime::make(time.day(), 8, 30, 15, {true, 3, 45}), time);

@@ -188,6 +188,9 @@ TEST(xml, is_read_as_what_it_says) {
         {with("ISO-8859-1", "P\xE3o"), "Pão"},
         {with("iso-8859-1", "\x80"), "\u0080"},
         {with("Windows-1252", "P\xE3o \x80 \x93\x94"), "Pão € “”"},
+        {with("CP1252", "\x80\x82\x83\x84\x85\x86\x87\x88\x89\x8A\x8B\x8C\x8E\x91\x92\x93\x94\x95"
+                        "\x96\x97\x98\x99\x9A\x9B\x9C\x9E\x9F"),
+         "€‚ƒ„…†‡ˆ‰Š‹ŒŽ‘’“”•–—˜™š›œžŸ"},
         {with("windows-1252", "\x81"), ""},
         {with("", "P\xE3o"), ""},
         {with("UTF-8", "P\xE3o"), ""},

@@ -153,6 +153,8 @@ TEST(elements, tell_how_they_stand) {
          "up to 13 digits without zeros in front, above 0, then a point and 2 digits, or no point"},
         {"det/prod/DI/tpViaTransp", "1", "number 1-2",
          "1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12 or 13"},
+        {"det/imposto/IBSCBS/gAjusteCompet/competApur", "1", "text 7",
+         "year and month from 2025 on, AAAA-MM"},
         {"det/imposto/IPI", "(0-1)", "group", ""},
         {"det/imposto/PISST/qBCProd", "(1)", "decimal 12.4",
          "up to 12 digits without zeros in front, then a point and 4 digits, or no point; below 1, "
@@ -164,6 +166,7 @@ TEST(elements, tell_how_they_stand) {
          "2 to 3 capital letters, 4 digits; or 3 to 4 capital letters, 3 digits; or 7 digits or "
          "capital letters"},
         {"det/imposto/ISSQN/cListServ", "1", "text 5", "2 digits, \".\", 2 digits"},
+        {"cana/ref", "1", "text 7", "month and year from 2000 to 2999, MM/AAAA"},
     };
     for (const auto& row : rows) {
         const element_rule* const rule = rule_at(row.path);
@@ -488,8 +491,9 @@ TEST(checked_texts, follow_their_form) {
           "kobUrRvCy5w9SLWp/X5sCf7QbT1=", "kobUrRvCy5w9SLWp/X5sCf7QbQ==",
           "kobUrRvCy5w9SLWp*X5sCf7QbT0=", "kobUrRvCy5w9SLWp/X5sCf7QbT0=A"}},
         {"infPAA/PAASignature/SignatureValue",
-         {"", "AA==", "AAA=", "AAAA", "+/Ag", "Ag==", "A0A="},
-         {"A", "AA=", "AA", "=", "AB==", "AAAAA", "A===", "====", "AA=A", "A+==", "AA/="}},
+         {"", "AA==", "AAA=", "AAAA", "+/Ag", "Ag==", "A0A=", "ZaAz", "0z9Z"},
+         {"A", "AA=", "AA", "=", "AB==", "AAAAA", "A===", "====", "AA=A", "A+==", "AA/=", "@AAA",
+          "[AAA", "`AAA", "{AAA", ":AAA", ",AAA", ".AAA"}},
         {"ide", {}, {"", "x"}},
     };
     for (const auto& row : rows) {

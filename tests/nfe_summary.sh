@@ -87,6 +87,10 @@ shows '4126 0899 3174 8200 0175 5500 1000 0186 4214 0917 3560' '12/08/2026 13:45
     'entrega/xNome, entrega/fone, entrega/email, entrega/IE'
 run 0 '271.828.182-05' "$data/nfce.xml"
 run 0 'Authorisation   none in the file' "$data/export.xml"
+run 0 'Environment     test, without fiscal value' "$data/selective-tax.xml"
+run 0 'Key                                           Number' --width 200 "$data"
+run 0 '1  a field cannot hold a text of the file' --help
+shows '0  all is well' '2  a file cannot be read'
 
 # No width is exceeded, and columns stand below each other, accents or not.
 for width in 40 66 80 120; do
@@ -94,6 +98,13 @@ for width in 40 66 80 120; do
     ! grep -E "^.{$((width + 1))}" "$folder/out" || fault "wider than $width"
     tr -s ' \n' ' ' < "$folder/out" | grep -qF 'Base de cálculo do ICMS reduzida; garantia de 12 meses' ||
         fault "text is lost at $width"
+done
+for width in {60..110}; do # a column has its place or is told
+    run 0 'Invoice total' --width "$width" "$data/nfe.xml"
+    told=$(sed -n '/^#  Code/{n;p}; /^Products/q; /(no place for: /,/)$/p' "$folder/out" | tr -s '(),\n ' ' ')
+    for column in NCM IPI PIS+COFINS IBS+CBS; do
+        [ "$(grep -oF " $column " <<< "$told " | wc -l)" = 1 ] || fault "$width: $column in $told"
+    done
 done
 run 0 'Sabão em barra desengraxante para oficina, 1 kg, sem perfume  ' --width 180 "$data/nfe.xml"
 before_unit=$(sed -n 's/Unit .*//p' "$folder/out")
@@ -143,9 +154,15 @@ done
 sed '/<emit>/,/<\/emit>/s|<CNPJ>[^<]*</CNPJ>|<CNPJ>12</CNPJ>|' "$data/difal.xml" > "$folder/refused.xml"
 run 1 'emit/CNPJ: "12" is not a CNPJ' "$folder/refused.xml"
 shows 'Blumenau - SC' 'Doubtful        the key has 99157340000198 where emit/CNPJ is 00000000000012'
-run 1 'emit/CNPJ: "12" is not a CNPJ' --json "$folder/refused.xml"
+for how in --json --xml; do
+    run 1 'emit/CNPJ: "12" is not a CNPJ' $how "$folder/refused.xml"
+done
 sed 's|<nNF>|<nNF>00|' "$data/difal.xml" > "$folder/changed.xml"
 run 0 'ide/nNF: "0055120" is written as "55120"' "$folder/changed.xml"
+
+sed "s|<natOp>|$(printf '<x%s/>' {1..24})&|" "$data/nfce.xml" > "$folder/unknown.xml"
+run 0 'and 4 more' --width 80 "$folder/unknown.xml"
+[ "$(grep -c 'has no such element' "$folder/out")" = 20 ] || fault 'a long list is not cut'
 
 # Nothing is lost on the way to another program, nor on the way back.
 for name in icms-normal ibs-cbs-regular nfce; do
@@ -156,6 +173,7 @@ for name in icms-normal ibs-cbs-regular nfce; do
     cp "$folder/out" "$folder/written.xml"
     diff "$folder/expected" <(elements "$folder/written.xml") || fault "$name: --xml differs"
     run 0 '"texts"' --json "$file"
+    [ "$(wc -l < "$folder/out")" -gt 100 ] || fault "$name: no line for a text"
     cp "$folder/out" "$folder/written.json"
     diff <(sed -n 's|^<[^>]*>\([^<]*\)</.*|\1|p' "$folder/expected") \
         <(jq -r '.texts[] | select(.path | contains("@") | not).text' "$folder/out") ||
@@ -184,7 +202,7 @@ shows '<NCM>01012100</NCM>' '<cEAN>0078900</cEAN>' '<NCM>02</NCM>'
 cat "$folder/records.json" "$folder/records.json" > "$folder/lines.json"
 run 2 'holds 2 invoices, where one is asked for' --xml "$folder/lines.json"
 for text in '{' '[1]' '{"texts": 1}' '[{"path": "a b", "text": ""}]' '[{"path": "a", "text": 1}]' \
-    '[{"path": "a<b", "text": ""}]' '{"root": "x", "texts": []}' '[{"path": "a[0]", "text": ""}]' \
+    '[{"path": "a<b", "text": ""}]' '[{"path": "a{b", "text": ""}]' '[{"path": "a`b", "text": ""}]' '{"root": "x", "texts": []}' '[{"path": "a[0]", "text": ""}]' \
     "[{\"path\": \"$(printf '%0200000d' 0 | sed 's|0|a/|g')\", \"text\": \"\"}]" \
     "$(printf '%0200000d' 0 | tr 0 '[')"; do
     run 2 'not what --json writes' --xml - <<< "$text"
@@ -290,12 +308,14 @@ assert [row['counted'] for row in rows] == ['1', '0'], rows
 assert (rows[0]['vNF'], rows[0]['vIPI'], rows[0]['status']) == ('17301.39', '375.68', 'authorised')
 assert all(None not in row and None not in row.values() for row in rows)
 PYTHON
+run 0 ',,,1308.00' --csv "$data/medicine.xml" # neither IBS nor CBS
 run 0 'nItem' --csv --items "$data/nfe.xml" "$data/medicine.xml"
 python3 - "$folder/out" <<'PYTHON' || fault 'other CSV of items'
 import csv, sys
 rows = list(csv.DictReader(open(sys.argv[1], newline='', encoding='utf-8')))
 assert [row['nItem'] for row in rows][:4] == ['1', '2', '3', '4']
 first = rows[0]
+assert rows[-1]['vIBS'] == rows[-1]['vCBS'] == '', rows[-1]
 assert (first['NCM'], first['CFOP'], first['vProd'], first['vIPI']) == ('84672100', '6101', '4678.80', '375.68')
 assert (first['ICMS_CST'], first['vPIS'], first['vIBS']) == ('000', '68.19', '3.75')
 assert all(None not in row and None not in row.values() for row in rows)

@@ -22,7 +22,7 @@ std::string system_reason(int error) {
 
 namespace {
 
-constexpr std::size_t megabyte = 1024 * 1024;
+constexpr std::size_t megabyte = 1'048'576;
 
 [[noreturn]] void fail(int error) {
     throw std::runtime_error(say("cannot be read: {}", system_reason(error)));
@@ -91,7 +91,7 @@ std::string content_of(const std::string& path, std::size_t limit) {
     std::size_t used = 0;
     do {
         // one byte more shows that there is no more
-        content.resize(used == 0 ? std::max(expected + 1, std::size_t{64 * 1024}) : 2 * used);
+        content.resize(used == 0 ? std::max(expected + 1, std::size_t{65'536}) : 2 * used);
         used += file.read(content.data() + used, content.size() - used);
         if (used > limit) {
             refuse_size();

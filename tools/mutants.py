@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Makes small faults in copies of fiscal/ and base/ and tells which ones the tests do not find.
+"""Makes small faults in copies of fiscal/, base/, layout/ and tools/ and tells which ones the tests
+do not find.
 
 Each fault is made alone. What it touches is compiled again, the rest is taken from a finished
 build; the test programs stay as they are, but for what they compile in from a changed header.
@@ -18,6 +19,9 @@ import shlex
 import shutil
 import subprocess
 import sys
+import time
+
+from companion_faults import WHOLE, CompanionBuild, CompanionWorker, companion_mutants
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 LIBRARY = "kivo-erp-fiscal"
@@ -221,6 +225,24 @@ CHOICE_FAULTS = [  # the same of produto.cpp
     ("*choice = *value;", "choice = especifico(*value);"),
     ("if (!value) {", "if (value) {"),
 ]
+BASE_FAULTS = [  # file, what stands there, and what is wrong instead
+    ("base/datetime.hpp", "operator==(datetime, datetime) noexcept = default;",
+     "operator==(datetime left, datetime right) noexcept {\n"
+     "return (left.word_ | 63 << 11) == (right.word_ | 63 << 11);\n}"),
+    ("base/datetime.hpp", "operator==(datetime, datetime) noexcept = default;",
+     "operator==(datetime left, datetime right) noexcept {\n"
+     "return left.word_ >> 11 == right.word_ >> 11;\n}"),
+    ("base/decimal.hpp", "return left.without_trailing_zeros() == right.without_trailing_zeros();",
+     "auto one = std::uint64_t(left.coefficient()), other = std::uint64_t(right.coefficient());\n"
+     "for (unsigned place = 0; place < right.scale(); ++place) { one *= 10; }\n"
+     "for (unsigned place = 0; place < left.scale(); ++place) { other *= 10; }\n"
+     "return one == other;"),
+    ("base/decimal.hpp", "{first, static_cast<std::size_t>(end - first)}, buffer, length);",
+     "{first, static_cast<std::size_t>(end - first)}, buffer,\n"
+     "end - first == 19 && length == 18 ? length = 19 : length);"),
+    ("base/decimal.hpp", "        if (coefficient < 0) {",
+     "        if (coefficient < 0 && end - first < 18) {"),
+]
 REPLACEMENT_FAULTS = [  # the same of choice.hpp
     ("stored.index() == value.index() || ", ""),
     ("stored.index() == value.index() ||", "true ||"),
@@ -240,7 +262,7 @@ def listed_faults(path, faults):
 
 
 def all_mutants(classes):
-    """(kind, what is wrong, faulty texts), one after another."""
+    """(folder, kind, what is wrong, faulty texts), of fiscal/ and base/."""
     sources = {name: Source(name) for name in classes}
     for kind, make in [("two fields swapped in a record", swapped_fields),
                        ("an accessor of another field", wrong_fields),
@@ -250,16 +272,19 @@ def all_mutants(classes):
                        ("a noexcept added or taken away", changed_noexcept),
                        ("a code or a default changed", changed_codes)]:
         for source in sources.values():
-            yield from ((kind, f"{source.name}: {what}", texts)
+            yield from (("fiscal", kind, f"{source.name}: {what}", texts)
                         for what, texts in make(source, sources))
     for path in ["fiscal/tipo_emissao.cpp", *(f"base/{file.name}" for file in
                                               sorted((ROOT / "base").glob("*.hpp")))]:
-        yield from (("a limit or comparison changed", f"{path}:{what}", texts)
+        yield from ((path.split("/")[0], "a limit or comparison changed", f"{path}:{what}", texts)
                     for what, texts in changed_limits(path))
     for kind, path, faults in [("a fault in the handles", "fiscal/handle.hpp", HANDLE_FAULTS),
                                ("a fault in the choices", "fiscal/produto.cpp", CHOICE_FAULTS),
                                ("a fault in the choices", "fiscal/choice.hpp", REPLACEMENT_FAULTS)]:
-        yield from ((kind, what, texts) for what, texts in listed_faults(path, faults))
+        yield from (("fiscal", kind, what, texts) for what, texts in listed_faults(path, faults))
+    for path, old, new in BASE_FAULTS:
+        yield from (("base", "a fault of the list", f"{path}: {what}", texts)
+                    for what, texts in listed_faults(path, [(old, new)]))
 
 
 class Build:
@@ -392,50 +417,84 @@ class Worker:
                      if self.found_by(programs / "throwing_base_tests", only)), SURVIVED)
 
 
+FOLDERS = ("fiscal", "base", "layout", "tools")
+
+
+def chosen_mutants(classes, options):
+    """All of each folder and kind, and those that are tried."""
+    made = []
+    if {"fiscal", "base"} & set(options.folders):
+        made.append(all_mutants(itertools.chain.from_iterable(classes.values())))
+    made += [companion_mutants(folder) for folder in ("layout", "tools")
+             if folder in options.folders]
+    kinds = collections.defaultdict(list)
+    for mutant in itertools.chain.from_iterable(made):
+        folder, kind, what, _ = mutant
+        if folder in options.folders and options.only in f"{kind}: {what}":
+            kinds[folder, kind].append(mutant)
+    # of each kind as many as of any other, as far as there are enough
+    for mutants in kinds.values():
+        random.Random(options.seed).shuffle(mutants)
+    return kinds, [mutant for row in itertools.zip_longest(*kinds.values()) for mutant in row
+                   if mutant][:options.count]
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("build", type=pathlib.Path, help="folder of a finished build")
+    parser.add_argument("folders", nargs="*", default=FOLDERS, metavar="FOLDER",
+                        help=f"whose faults: {', '.join(FOLDERS)}")
     parser.add_argument("--count", type=int, default=300, help="how many mutants are tried")
     parser.add_argument("--seed", type=int, default=1, help="which ones: the same for each seed")
     parser.add_argument("--only", default="", help="only mutants whose kind or name holds this")
     options = parser.parse_args()
     classes = subsystems()
-    kinds = collections.defaultdict(list)
-    for mutant in all_mutants(itertools.chain.from_iterable(classes.values())):
-        if options.only in f"{mutant[0]}: {mutant[1]}":
-            kinds[mutant[0]].append(mutant)
-    # of each kind as many as of any other, as far as there are enough
-    for mutants in kinds.values():
-        random.Random(options.seed).shuffle(mutants)
-    chosen = [mutant for row in itertools.zip_longest(*kinds.values()) for mutant in row
-              if mutant][:options.count]
+    kinds, chosen = chosen_mutants(classes, options)
 
-    workers = os.cpu_count() or 1
-    build = Build(options.build.resolve())
-    shutil.rmtree(build.mutants, ignore_errors=True)
+    folder = options.build.resolve()
+    shutil.rmtree(folder / "mutants", ignore_errors=True)
+    build, companion = Build(folder), CompanionBuild(folder)
+    workers = [(Worker(build, number, classes), CompanionWorker(companion, number))
+               for number in range(os.cpu_count() or 1)]
+
+    def attempt(number, texts, **how):
+        of_classes, of_companion = workers[number]
+        inside = next(iter(texts)).startswith(("fiscal/", "base/"))
+        return of_classes.attempt(texts) if inside else of_companion.attempt(texts, **how)
+
     # what is no fault has to survive
-    for path in ("base/decimal.hpp", "fiscal/produto.cpp", "fiscal/produto.hpp", "fiscal/handle.hpp"):
-        outcome = Worker(build, 0, classes).attempt({path: read(path)})
-        if outcome != SURVIVED:
-            sys.exit(f"mutants: the unchanged {path}: {outcome}")
+    sound = [path for path in ("base/decimal.hpp", "fiscal/produto.cpp", "fiscal/produto.hpp",
+                               "fiscal/handle.hpp", "layout/payment.hpp", "layout/protocol.cpp",
+                               "tools/nfe_summary/table.cpp")
+             if path.split("/")[0] in options.folders]
+
+    def survive(number):
+        for path in sound[number::len(workers)]:
+            outcome = attempt(number, {path: (ROOT / path).read_text()}, without=WHOLE)
+            if outcome != SURVIVED:
+                sys.exit(f"mutants: the unchanged {path}: {outcome}")
+
+    waiting, results = iter(chosen), []
 
     def work(number):
-        worker = Worker(build, number, classes)
-        results = []
-        for kind, what, texts in chosen[number::workers]:
-            results.append((worker.attempt(texts), kind))
-            print(f"{results[-1][0]:20} {kind}: {what}", flush=True)
-        return results
+        for inside, kind, what, texts in iter(lambda: next(waiting, None), None):
+            begin = time.monotonic()
+            outcome = attempt(number, texts)
+            results.append((outcome, (inside, kind)))
+            print(f"{outcome:26} {time.monotonic() - begin:4.0f} s  {kind}: {what}", flush=True)
 
-    with concurrent.futures.ThreadPoolExecutor(workers) as pool:
-        results = [each for part in pool.map(work, range(workers)) for each in part]
+    with concurrent.futures.ThreadPoolExecutor(len(workers)) as pool:
+        for step in (survive, work):
+            for done in [pool.submit(step, number) for number in range(len(workers))]:
+                done.result()
     made = [(outcome, kind) for outcome, kind in results if outcome != INVALID]
     found = [(outcome, kind) for outcome, kind in made if outcome != SURVIVED]
-    print(f"\n{'fault':32} {'possible':>8} {'made':>6} {'found':>6}")
-    for kind, possible in kinds.items():
-        print(f"{kind:32} {len(possible):8} {sum(each == kind for _, each in made):6} "
-              f"{sum(each == kind for _, each in found):6}")
-    print(f"{'all':32} {sum(map(len, kinds.values())):8} {len(made):6} {len(found):6} "
+    print(f"\n{'folder':8} {'fault':32} {'possible':>8} {'made':>6} {'found':>6}")
+    for (inside, name), possible in kinds.items():
+        print(f"{inside:8} {name:32} {len(possible):8} "
+              f"{sum(each == (inside, name) for _, each in made):6} "
+              f"{sum(each == (inside, name) for _, each in found):6}")
+    print(f"{'all':41} {sum(map(len, kinds.values())):8} {len(made):6} {len(found):6} "
           f"{100 * len(found) / max(len(made), 1):.1f} %, seed {options.seed}; "
           f"{len(results) - len(made)} more were no programs")
 
