@@ -619,6 +619,9 @@ constexpr element_table table;
 } // namespace
 
 std::span<const char_run> text_rule::runs() const {
+    if (is != kind::like) {
+        return {};
+    }
     return std::span(char_runs).subspan(first, static_cast<std::size_t>(last - first));
 }
 

@@ -100,7 +100,7 @@ struct text_rule {
     std::uint32_t smallest = 0;   ///< of a number
     std::uint32_t largest = 0;    ///< of a number; of a decimal, 0 where only its digits limit it
 
-    /// The runs of characters that make up a text that is `like` something.
+    /// The runs of characters that make up a text that is `like` something; none of another.
     std::span<const char_run> runs() const;
     /// The texts of `codes`.
     text_list codes() const;
