@@ -141,6 +141,16 @@ if [ "$(id -u)" != 0 ]; then
     chmod 0 "$folder/closed"
     run 2 'closed: cannot be read: Permission denied' "$folder/closed" "$data/nfe.xml"
 fi
+( # a path that is too long cannot be read by root either
+    mkdir "$folder/deep"
+    cd "$folder/deep"
+    for _ in {1..17}; do
+        mkdir "$(printf '%0250d' 0)"
+        cd 0*
+    done
+)
+run 2 'deep/000' "$folder/deep" "$data/nfe.xml"
+grep -qF '17.301,39' "$folder/out" || fault 'nothing told of the files that can be read'
 for arguments in '' --json --xml --csv --help --check; do
     echo '<NFe><infNFe><ide/></infNFe></NFe>' > "$folder/faulty.xml"
     status=0
