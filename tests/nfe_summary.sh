@@ -338,6 +338,9 @@ for how in --width=100 --xml; do
     run 0 'NFe/infNFe[2]: another invoice in the same NFe, not read' $how "$folder/second.xml"
 done
 
+sed 's|</nItemPed>|&<nFCI>7</nFCI>|' "$data/nfe.xml" > "$folder/repeated.xml"
+run 0 'det/prod/nFCI (3 times)' --width=200 "$folder/repeated.xml"
+
 # What the layout does not allow is listed, with the file.
 run 0 '' --check "$data"
 sed 's|<mod>55|<mod>56|; /<natOp>/d' "$data/nfe.xml" > "$folder/faulty.xml"
