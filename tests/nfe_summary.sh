@@ -90,6 +90,7 @@ run 0 'Authorisation   none in the file' "$data/export.xml"
 run 0 'Environment     test, without fiscal value' "$data/selective-tax.xml"
 run 0 'Key                                           Number' --width 200 "$data"
 run 0 '1  a field cannot hold a text of the file' --help
+[[ $(head -1 "$folder/out") = 'Usage: nfe_summary '* ]] || fault 'the help begins otherwise'
 shows '0  all is well' '2  a file cannot be read'
 
 # No width is exceeded, and columns stand below each other, accents or not.
