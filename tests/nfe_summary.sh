@@ -89,6 +89,8 @@ run 0 '271.828.182-05' "$data/nfce.xml"
 run 0 'Authorisation   none in the file' "$data/export.xml"
 run 0 'Environment     test, without fiscal value' "$data/selective-tax.xml"
 run 0 'Key                                           Number' --width 200 "$data"
+run 0 '1  320   Gasolina A comum           27101259  5652     3.000  LT          2,91' \
+    --width 200 "$data/ibs-cbs-monophasic.xml"
 run 0 '1  a field cannot hold a text of the file' --help
 [[ $(head -1 "$folder/out") = 'Usage: nfe_summary '* ]] || fault 'the help begins otherwise'
 shows '0  all is well' '2  a file cannot be read'
@@ -272,6 +274,7 @@ sums 'authorised 1 17.301,39'
 event 110110 '<xCorrecao>Leia-se Rua B</xCorrecao>' 135 "$key" > "$many/y.xml"
 run 0 'correction letter 2 of 13/08/2026 08:00:00 -03:00: Leia-se Rua B' "$many/1.xml" "$many/y.xml"
 sums 'authorised 1 17.301,39'
+run 0 'z.xml: holds no invoice, but what belongs to one' --json "$many/z.xml"
 run 0 'Cancellation' "$many/z.xml"
 shows "${key:0:4} ${key:4:4}" 'Justification   Pedido desfeito'
 run 0 'is not among the files' "$data/difal.xml" "$many/z.xml"
