@@ -76,9 +76,9 @@ if(KIVO_BUILD_TOOLS)
     foreach(file
             manual.en.gz:man/man1/nfe_summary.1.gz
             manual.pt_BR.gz:man/pt_BR/man1/nfe_summary.1.gz
-            bash.en:bash-completion/completions/nfe_summary
-            zsh.en:zsh/vendor-completions/_nfe_summary
-            fish.en:fish/vendor_completions.d/nfe_summary.fish)
+            bash:bash-completion/completions/nfe_summary
+            zsh:zsh/vendor-completions/_nfe_summary
+            fish:fish/vendor_completions.d/nfe_summary.fish)
         string(REPLACE ":" ";" source_and_place "${file}")
         list(GET source_and_place 0 source)
         list(GET source_and_place 1 place)

@@ -89,7 +89,8 @@ set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "${runtime_package} (>= ${PROJECT_VERSION
 set(CPACK_DEBIAN_TOOLS_DESCRIPTION "shows, sums, checks and converts Brazilian invoices
 nfe_summary shows NF-e and NFC-e files to a person, in Portuguese or English:
 one invoice whole, or the sums of whole folders. It compares invoices, checks
-them against the layout, and writes them as CSV, JSON or XML.")
+them against the layout, and writes them as CSV, JSON or XML, or as a page to
+print.")
 
 if(KIVO_BUILD_LAYOUT)
     # CMake itself strips no static library

@@ -78,9 +78,8 @@ core::v7::optional<char> key_check_digit(std::string_view first_characters) {
     }
     int sum = 0;
     int weight = 2;
-    for (auto character = first_characters.rbegin(); character != first_characters.rend();
-         ++character) {
-        sum += (*character - '0') * weight;
+    for (std::size_t index = first_characters.size(); index-- > 0;) {
+        sum += (first_characters[index] - '0') * weight;
         weight = weight == 9 ? 2 : weight + 1;
     }
     const int remainder = sum % 11;

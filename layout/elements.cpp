@@ -639,6 +639,9 @@ const element_rule* element_rule::search(std::string_view name) const {
 const group_rule& element_rule::content() const { return group_rules[content_]; }
 
 std::span<const text_rule> element_rule::texts() const {
+    if (is_group()) {
+        return {};
+    }
     return std::span(text_rules).subspan(content_, texts_);
 }
 

@@ -302,12 +302,12 @@ void reader::tell_text_in_group(const node& group) {
     }
 }
 
-bool reader::is_moved(const node& parent, const node& element) {
-    if (ordered_.insert(&parent).second) {
-        const element_rule* const rule = rule_of(parent);
+bool reader::is_moved(const node& group, const node& element) {
+    if (ordered_.insert(&group).second) {
+        const element_rule* const rule = rule_of(group);
         const node* before = nullptr; // the last that the layout has
         unsigned last = 0;
-        for (const node& child : children(parent)) {
+        for (const node& child : children(group)) {
             if (child.name.is_attribute()) {
                 continue;
             }
@@ -327,9 +327,9 @@ bool reader::is_moved(const node& parent, const node& element) {
     return moved_.contains(&element);
 }
 
-void reader::tell_if_moved(const node& parent, const node& element) {
-    if (is_moved(parent, element)) {
-        tell_moved(element, "in the layout's order");
+void reader::tell_if_moved(const node& group, const node& child) {
+    if (is_moved(group, child)) {
+        tell_moved(child, "in the layout's order");
     }
 }
 

@@ -172,8 +172,8 @@ private:
     /// The same of elements before the first of their name that an entry stored.
     void tell_lost_before(const table_name& name, const node& parent, const node& stored);
     /// Tells that an element is not where the layout has it, between those that stand beside it.
-    void tell_if_moved(const node& parent, const node& element);
-    bool is_moved(const node& parent, const node& element);
+    void tell_if_moved(const node& group, const node& child);
+    bool is_moved(const node& group, const node& element);
     /// The layout's rule of an element; null where it has none.
     const element_rule* rule_of(const node& element) const;
     /// What is known in an element, by any of those that read its parent; null where nothing is.

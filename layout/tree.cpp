@@ -265,10 +265,10 @@ void compare(const node* left, const node* right, const std::string& path,
     }
     for (const auto& name : paired_children(left, right).names) {
         const std::size_t total = std::max(name.left.size(), name.right.size());
+        const std::string_view own = (name.left.empty() ? name.right : name.left).front()->name;
         for (std::size_t index = 0; index < total; ++index) {
             const node* const left_child = index < name.left.size() ? name.left[index] : nullptr;
             const node* const right_child = index < name.right.size() ? name.right[index] : nullptr;
-            const std::string_view own = (left_child != nullptr ? left_child : right_child)->name;
             compare(left_child, right_child,
                     path_below(path, with_number(own, total > 1 ? index + 1 : 0)), result);
         }

@@ -75,7 +75,9 @@ bool is_plain(const char* bytes) {
     unsigned char others = 0; // without a branch: the compiler looks at many bytes at once
     for (std::size_t index = 0; index < block; ++index) {
         const auto byte = static_cast<signed char>(bytes[index]); // of other characters: below 0
-        others = static_cast<unsigned char>(others | (-(byte < 0x20) ^ -(byte == '\n')));
+        const unsigned char below = byte < 0x20 ? 0xFF : 0;
+        const unsigned char line_end = byte == '\n' ? 0xFF : 0;
+        others = static_cast<unsigned char>(others | (below ^ line_end));
     }
     return others == 0;
 }
@@ -270,7 +272,7 @@ public:
         result_->add_below(index - parent, own,
                            *text == '\0' ? std::string_view() : text_in_buffer(text));
         if (may_have_attributes(own)) {
-            for (pugi::xml_attribute attribute = found.first_attribute(); attribute;
+            for (pugi::xml_attribute attribute = found.first_attribute(); !attribute.empty();
                  attribute = attribute.next_attribute()) {
                 add(found, attribute, result_->size() - index);
             }
@@ -424,7 +426,7 @@ public:
 
     void declare() {
         make_room(0);
-        put("<?xml version=\"1.0\" encoding=\"UTF-8\"?>");
+        put(R"(<?xml version="1.0" encoding="UTF-8"?>)");
     }
 
 private:

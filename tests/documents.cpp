@@ -1,5 +1,6 @@
 #include "support/documents.hpp"
 #include "support/round_trip.hpp"
+#include "support/tried.hpp"
 
 #include <layout/check.hpp>
 #include <layout/xml.hpp>
@@ -307,6 +308,7 @@ TEST(random_documents, are_told_as_they_are) {
         }
         const std::string xml = document_of(infnfe);
         RC_PRE(xml.size() < 1'000'000U);
+        ++tried("random documents");
         std::string told;
         for (const std::string& fault : faults_of_round_trip(xml)) {
             told += fault + '\n';

@@ -257,6 +257,7 @@ sums 'authorised 1 17.301,39' 'inbound 1 17.301,39' 'complement 1 17.301,39' \
     'repeated, not summed 2'
 for width in 40 60 80 200; do # at any width, what is wrong names its file
     run 0 'Sums' --width "$width" "$many"
+    ! grep -E "^.{$((width + 1))}" "$folder/out" || fault "wider than $width"
     [ "$(tr -d ' \n' < "$folder/out" | grep -o '3-other.xml:another' | wc -l)" = 1 ] ||
         fault "$width: no file beside its problem"
 done

@@ -97,6 +97,14 @@ for file in man/man1/nfe_summary.1.gz man/pt_BR/man1/nfe_summary.1.gz \
     done < options
 done
 
+zcat root/usr/share/man/pt_BR/man1/nfe_summary.1.gz | grep -qF '.SH NOME' ||
+    fail "the manual page is not in Portuguese"
+for file in zsh/vendor-completions/_nfe_summary fish/vendor_completions.d/nfe_summary.fish; do
+    for words in 'Mostrar a vers' 'Show the version'; do
+        grep -qF "$words" "root/usr/share/$file" || fail "$file does not say '$words'"
+    done
+done
+
 # GDB repeats the path of a library in the folder of the printers, and here the root is part of it
 scripts=$work/root/usr/share/gdb/auto-load
 mkdir -p "$scripts$work/root"

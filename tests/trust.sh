@@ -51,14 +51,15 @@ in_pieces() { # NAME COMMAND...
 
 every_failure() {
     local test what='failing allocations'
-    for test in value throwing_base companion_failure; do
+    for test in value throwing_base companion_failure companion_throw; do
         say "$test tests, every failure"
         KIVO_EVERY_FAILURE=1 in_pieces "$test" "build/release/tests/${test}_tests" --gtest_brief=1
     done
     figure "$(sum_of "^tried: \([0-9]*\) $what$" "$logs"/value.*)" "$what of the classes"
     figure "$(sum_of "^tried: \([0-9]*\) $what$" "$logs"/companion_failure.*)" "$what of the companion"
     what='failing operations of base values'
-    figure "$(sum_of "^tried: \([0-9]*\) $what$" "$logs"/throwing_base.*)" "$what"
+    figure "$(sum_of "^tried: \([0-9]*\) $what$" "$logs"/throwing_base.*)" "$what in the classes"
+    figure "$(sum_of "^tried: \([0-9]*\) $what$" "$logs"/companion_throw.*)" "$what in the companion"
 }
 
 valgrinding() {

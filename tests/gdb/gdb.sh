@@ -2,6 +2,7 @@
 # Checks what gdb prints of objects with the printers: loaded from beside the library, from where
 # they are installed, and sourced without any other printers.
 # Usage: gdb.sh GDB DEBUGGEE LIBRARY PRINTERS BUILD_FOLDER
+# shellcheck disable=SC2016 # the dollars are the debugger's
 set -euo pipefail
 gdb=$1
 debuggee=$2

@@ -15,18 +15,17 @@
 
 namespace nfe_summary {
 
-namespace {
-
-constexpr std::size_t megabyte = 1024 * 1024;
-
-/// A reason of the system in the chosen language.
-std::string reason(int error) {
+std::string system_reason(int error) {
     const char* const known = strerrordesc_np(error);
     return translated(known == nullptr ? std::to_string(error) : known);
 }
 
+namespace {
+
+constexpr std::size_t megabyte = 1'048'576;
+
 [[noreturn]] void fail(int error) {
-    throw std::runtime_error(say("cannot be read: {}", reason(error)));
+    throw std::runtime_error(say("cannot be read: {}", system_reason(error)));
 }
 
 class open_file {
@@ -92,7 +91,7 @@ std::string content_of(const std::string& path, std::size_t limit) {
     std::size_t used = 0;
     do {
         // one byte more shows that there is no more
-        content.resize(used == 0 ? std::max(expected + 1, std::size_t{64 * 1024}) : 2 * used);
+        content.resize(used == 0 ? std::max(expected + 1, std::size_t{65'536}) : 2 * used);
         used += file.read(content.data() + used, content.size() - used);
         if (used > limit) {
             refuse_size();
@@ -131,7 +130,7 @@ bool add_files(const std::filesystem::path& folder, std::vector<std::string>& pa
         }
     }
     if (error) {
-        complain(folder.native(), say("cannot be read: {}", reason(error.value())));
+        complain(folder.native(), say("cannot be read: {}", system_reason(error.value())));
     }
     for (const std::filesystem::path& inner : folders) { // one folder is open at a time
         complete = add_files(inner, paths) && complete;

@@ -10,6 +10,9 @@ namespace nfe_summary {
 /// The name of standard input.
 inline constexpr const char* standard_input = "-";
 
+/// What the system says of an error, in the chosen language.
+std::string system_reason(int error);
+
 /// All of a file. Throws std::runtime_error, without its name, where it cannot be read, is empty,
 /// or has more bytes than the limit.
 std::string content_of(const std::string& path, std::size_t limit);

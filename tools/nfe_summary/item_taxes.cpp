@@ -28,19 +28,33 @@ template <class Group> std::string icms_situation(const Group& group) {
     return fmt::to_string(origin) + code.value_or("");
 }
 
-template <class Group> optional<fiscal::decimal> icms_amount(const Group& group) {
-    const auto of_normal_part = [](const auto& part) {
-        return part ? part->get_valor_icms() : std::nullopt;
+/// What a group, or its normal part, tells of the ICMS on the operation itself.
+template <class Group> item_tax icms_of(const Group& group) {
+    item_tax tax{icms_situation(group), {}};
+    const auto take = [&](const auto& part) {
+        if constexpr (requires { part.get_valor_icms(); }) {
+            tax.amount = part.get_valor_icms();
+        }
+        if constexpr (requires { part.get_valor_bc_icms(); }) {
+            tax.base = part.get_valor_bc_icms();
+        }
+        if constexpr (requires { part.get_aliquota_icms(); }) {
+            tax.rate = part.get_aliquota_icms();
+        }
     };
-    if constexpr (requires { group.get_valor_icms(); }) {
-        return group.get_valor_icms();
-    } else if constexpr (requires { group.get_tributacao_normal_icms_90(); }) {
-        return of_normal_part(group.get_tributacao_normal_icms_90());
+    const auto take_normal = [&](const auto& part) {
+        if (part) {
+            take(*part);
+        }
+    };
+    if constexpr (requires { group.get_tributacao_normal_icms_90(); }) {
+        take_normal(group.get_tributacao_normal_icms_90());
     } else if constexpr (requires { group.get_tributacao_normal_icms_900(); }) {
-        return of_normal_part(group.get_tributacao_normal_icms_900());
+        take_normal(group.get_tributacao_normal_icms_900());
     } else {
-        return {};
+        take(group);
     }
+    return tax;
 }
 
 /// Adds what an item pays of IBS or CBS, in whichever form.
@@ -68,13 +82,11 @@ item_tax tax_on_operation(const produto& item) {
         return {};
     }
     if (const auto* const service = std::get_if<fiscal::issqn>(&*choice)) {
-        return {"ISSQN", service->get_valor_issqn()};
+        return {"ISSQN", service->get_valor_issqn(), service->get_valor_bc(),
+                service->get_valor_aliquota()};
     }
-    return std::visit(
-        [](const auto& group) {
-            return item_tax{icms_situation(group), icms_amount(group)};
-        },
-        std::get<produto::icms>(*choice));
+    return std::visit([](const auto& group) { return icms_of(group); },
+                      std::get<produto::icms>(*choice));
 }
 
 item_tax ipi_of(const produto& item) {
@@ -82,8 +94,13 @@ item_tax ipi_of(const produto& item) {
     if (!tax) {
         return {};
     }
-    return {layout::text_of(tax->get_cst_ipi(), layout::digits(2)).value_or(""),
-            tax->get_valor_ipi()};
+    item_tax result{layout::text_of(tax->get_cst_ipi(), layout::digits(2)).value_or(""),
+                    tax->get_valor_ipi()};
+    if (const auto by_rate = tax->get_tributacao_ipi_calculo_aliquota()) {
+        result.base = by_rate->get_valor_bc_ipi();
+        result.rate = by_rate->get_aliquota_ipi();
+    }
+    return result;
 }
 
 decimal_sum pis_of(const produto& item) {

@@ -13,6 +13,8 @@ namespace nfe_summary {
 struct item_tax {
     std::string situation; ///< its code; empty without the tax
     optional<fiscal::decimal> amount;
+    optional<fiscal::decimal> base = {};
+    optional<fiscal::decimal> rate = {}; ///< in percent
 };
 
 /// ICMS on the operation itself, not that of the substitution, or the ISSQN of a service.

@@ -4,6 +4,7 @@
 #include "csv.hpp"
 #include "exports.hpp"
 #include "faults.hpp"
+#include "html.hpp"
 #include "in_order.hpp"
 #include "language.hpp"
 #include "options.hpp"
@@ -15,10 +16,13 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
+#include <deque>
 #include <exception>
 #include <stdexcept>
 #include <string>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -63,6 +67,37 @@ int run_xml(const arguments& given) {
         complain(path, change);
     }
     return tell_refusals(path, document.report);
+}
+
+/// A page of one invoice. What the other files hold, such as its cancellation, belongs to it.
+int run_html(const arguments& given) {
+    std::deque<named_source> files;
+    const named_source* of_invoice = nullptr;
+    std::size_t count = 0;
+    for (const std::string& path : given.paths) {
+        try {
+            files.push_back({path, read_source(path, given.limit)});
+        } catch (const std::exception& failure) {
+            throw std::runtime_error(path + ": " + failure.what());
+        }
+        const std::size_t more = files.back().content.invoices.size();
+        of_invoice = more == 0 ? of_invoice : &files.back();
+        count += more;
+    }
+    if (count != 1) {
+        throw std::runtime_error(say("--html takes one invoice, and what belongs to it; the files "
+                                     "hold {} invoices",
+                                     count));
+    }
+    const survey all = survey_of(files, survey_detail::invoices);
+    const surveyed& told = all.invoices.front();
+    if (!told.failure.empty()) {
+        throw std::runtime_error(of_invoice->path + ": " + told.failure);
+    }
+    const layout::tree& tree = *of_invoice->content.invoices.front();
+    const layout::invoice_document document = read_invoice(tree);
+    fmt::print("{}\n", html_of(tree, document, told));
+    return tell_refusals(of_invoice->path, document.report);
 }
 
 int run_differences(const arguments& given) {
@@ -211,7 +246,9 @@ int run_summary(const arguments& given, const file_list& files) {
         if (parts == 1 || file.invoices.empty()) {
             return show_file(out, first, file);
         }
-        const survey all = survey_of(first, std::move(file), survey_detail::invoices);
+        std::deque<named_source> files_read;
+        files_read.push_back({first, std::move(file)});
+        const survey all = survey_of(files_read, survey_detail::invoices);
         show_overview(out, all);
         return tell_failures(all);
     }
@@ -238,6 +275,9 @@ int run(const arguments& given) {
     if (given.wanted == output::differences) {
         return run_differences(given);
     }
+    if (given.wanted == output::html) {
+        return run_html(given);
+    }
     const file_list files = files_of(given.paths);
     const int status = given.wanted == output::json     ? run_json(given, files)
                        : given.wanted == output::faults ? run_check(given, files)
@@ -252,6 +292,10 @@ int parse_and_run(int argc, char** argv) {
         return run(read_arguments(argc, argv));
     } catch (const usage_error& wrong) {
         complain(say("{}; --help tells more", wrong.what()));
+    } catch (const std::system_error& failure) { // its words are in the locale's encoding
+        const std::string reason = system_reason(failure.code().value());
+        complain(std::ferror(stdout) != 0 ? say("the output cannot be written: {}", reason)
+                                          : reason);
     } catch (const std::exception& failure) {
         complain(failure.what());
     }
@@ -265,7 +309,8 @@ int parse_and_run(int argc, char** argv) {
 int main(int argc, char** argv) {
     const int status = nfe_summary::parse_and_run(argc, argv);
     if (std::fclose(stdout) != 0) {
-        nfe_summary::complain(nfe_summary::tr("the output cannot be written"));
+        nfe_summary::complain(nfe_summary::say("the output cannot be written: {}",
+                                               nfe_summary::system_reason(errno)));
         return nfe_summary::trouble;
     }
     return status;

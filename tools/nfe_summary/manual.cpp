@@ -1,12 +1,11 @@
 // Writes what is installed beside nfe_summary from the texts of its help: a manual page in the
-// chosen language, or completion for a shell.
+// chosen language, or completion for a shell, in the language of its environment.
 
 #include "language.hpp"
 #include "options.hpp"
 
 #include <fmt/format.h>
 
-#include <algorithm>
 #include <cstdio>
 #include <stdexcept>
 #include <string>
@@ -62,10 +61,14 @@ void write_manual() {
     }
 }
 
-/// What an option does, in few words.
-std::string_view first_words(const option_text& option) {
-    const std::string_view whole = option.help;
-    return whole.substr(0, std::min(whole.find_first_of(".;"), whole.find(" (")));
+/// What an option does, in few words: the first part of its help, without what is in parentheses.
+std::string first_words(const option_text& option) {
+    const std::string whole = tr(option.help);
+    std::string words = whole.substr(0, whole.find_first_of(".;"));
+    for (std::size_t begin = 0; (begin = words.find(" (")) != words.npos;) {
+        words.erase(begin, words.find(')', begin) + 1 - begin);
+    }
+    return words;
 }
 
 void write_bash() {
@@ -88,30 +91,51 @@ void write_bash() {
     fmt::print("    esac\n}}\ncomplete -o default -F _nfe_summary nfe_summary\n");
 }
 
-void write_zsh() {
-    fmt::print("#compdef nfe_summary\n_arguments \\\n");
+void write_zsh_options() {
+    fmt::print("    _arguments \\\n");
     for (const option_text& option : options()) {
         std::string words = replaced(first_words(option), "[]:", "\\");
         for (std::size_t at = 0; (at = words.find('\'', at)) != words.npos; at += 4) {
             words.replace(at, 1, "'\\''");
         }
-        fmt::print("    '--{}[{}]", option.name, words);
+        fmt::print("        '--{}[{}]", option.name, words);
         if (option.argument != nullptr) {
-            fmt::print(":{}:{}", option.argument,
+            fmt::print(":{}:{}", tr(option.argument),
                        option.values == nullptr ? "" : fmt::format("({})", option.values));
         }
         fmt::print("' \\\n");
     }
-    fmt::print("    '*:FILE:_files'\n");
+    fmt::print("        '*:{}:_files'", tr("FILE"));
 }
 
-void write_fish() {
+void write_zsh() {
+    fmt::print("#compdef nfe_summary\ncase ${{LC_ALL:-${{LC_MESSAGES:-$LANG}}}} in\npt*)\n");
+    choose_language("pt_BR");
+    write_zsh_options();
+    fmt::print(" ;;\n*)\n");
+    choose_language("en");
+    write_zsh_options();
+    fmt::print(" ;;\nesac\n");
+}
+
+void write_fish_options() {
     for (const option_text& option : options()) {
-        fmt::print("complete -c nfe_summary -l {}{}{} -d '{}'\n", option.name,
+        fmt::print("    complete -c nfe_summary -l {}{}{} -d '{}'\n", option.name,
                    option.argument == nullptr ? "" : " -x",
                    option.values == nullptr ? "" : fmt::format(" -a '{}'", option.values),
                    replaced(first_words(option), "'\\", "\\"));
     }
+}
+
+void write_fish() {
+    fmt::print("set -l languages $LC_ALL $LC_MESSAGES $LANG\n"
+               "if string match -q 'pt*' -- $languages[1]\n");
+    choose_language("pt_BR");
+    write_fish_options();
+    fmt::print("else\n");
+    choose_language("en");
+    write_fish_options();
+    fmt::print("end\n");
 }
 
 } // namespace

@@ -25,6 +25,7 @@ enum class id {
     json,
     xml,
     only_fields,
+    html,
     diff,
     check,
     width,
@@ -49,6 +50,9 @@ constexpr std::array option_table{
                 mark("Write the invoice of a file as an unsigned XML document")},
     option_text{"only-fields", nullptr, nullptr,
                 mark("With --xml, leave out the elements for which the library has no field")},
+    option_text{"html", nullptr, nullptr,
+                mark("Write a page of an invoice for a browser and for paper, as the DANFE has it; "
+                     "events in other FILEs are told on it")},
     option_text{"diff", nullptr, nullptr, mark("Write what differs between two files, by path")},
     option_text{"check", nullptr, nullptr,
                 mark("Write what the layout does not allow in each invoice, a line each")},
@@ -91,6 +95,8 @@ constexpr std::array example_table{
     example_text{"nfe_summary --by month notas/", mark("sums them by month")},
     example_text{"nfe_summary --csv --items notas/ > itens.csv",
                  mark("writes their items for a spreadsheet")},
+    example_text{"nfe_summary --html nota.xml > nota.html",
+                 mark("makes a page to look at and print")},
     example_text{"nfe_summary --check nota.xml", mark("looks for what the layout does not allow")},
     example_text{"nfe_summary --json nota.xml | nfe_summary --xml -",
                  mark("makes a document of paths and texts")},
@@ -123,7 +129,7 @@ std::string word(const option_text& option, const char* text) {
 void take(arguments& given, std::size_t index, const char* value) {
     const auto write = [&](output wanted) {
         if (given.wanted != output::summary && given.wanted != wanted) {
-            throw usage_error(tr("only one of --csv, --json, --xml, --diff and --check"));
+            throw usage_error(tr("only one of --csv, --json, --xml, --html, --diff and --check"));
         }
         given.wanted = wanted;
     };
@@ -146,6 +152,9 @@ void take(arguments& given, std::size_t index, const char* value) {
         break;
     case id::only_fields:
         given.only_fields = true;
+        break;
+    case id::html:
+        write(output::html);
         break;
     case id::diff:
         write(output::differences);
@@ -186,7 +195,8 @@ void check(const arguments& given) {
         throw usage_error(tr("--only-fields goes with --xml"));
     }
     if (given.by != grouping::none && given.wanted != output::summary) {
-        throw usage_error(tr("--by goes with none of --csv, --json, --xml, --diff and --check"));
+        throw usage_error(
+            tr("--by goes with none of --csv, --json, --xml, --html, --diff and --check"));
     }
     if (given.wanted == output::differences && given.paths.size() != 2) {
         throw usage_error(tr("--diff takes two files"));

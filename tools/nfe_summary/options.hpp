@@ -13,7 +13,7 @@
 namespace nfe_summary {
 
 /// What is written.
-enum class output { summary, json, xml, csv, differences, faults };
+enum class output { summary, json, xml, csv, html, differences, faults };
 
 struct arguments {
     std::vector<std::string> paths;

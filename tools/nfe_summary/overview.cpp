@@ -102,19 +102,38 @@ void show_sums(const page& out, const survey& all) {
             sums[share_of(invoice)].add(invoice.total);
         }
     }
-    table shown({{tr("Sums")}, {tr("Invoices"), true}, {tr("Total"), true}});
+    std::vector<std::vector<std::string>> rows;
     for (const auto& [which, sum] : sums) {
         const std::string name = name_of(which);
-        shown.add(
+        rows.push_back(
             {name.empty() ? tr("authorised") : name, fmt::to_string(sum.count), sum.total.text()});
     }
     if (repeated != 0) {
-        shown.add({tr("repeated, not summed"), fmt::to_string(repeated), ""});
+        rows.push_back({tr("repeated, not summed"), fmt::to_string(repeated), ""});
     }
     if (failed != 0) {
-        shown.add({tr("not read"), fmt::to_string(failed), ""});
+        rows.push_back({tr("not read"), fmt::to_string(failed), ""});
     }
-    show_table(out, shown);
+    const column count = {tr("Invoices"), true};
+    const column total = {tr("Total"), true};
+    table whole({{tr("Sums")}, count, total});
+    table figures({count, total});
+    for (const std::vector<std::string>& row : rows) {
+        whole.add(row);
+        figures.add({row[1], row[2]});
+    }
+    if (whole.fits(out.width)) {
+        show_table(out, whole);
+        return;
+    }
+    // where there is no room beside them, what is summed stands above its figures
+    const std::vector<std::string> lines = figures.lines(out.width);
+    out.heading(tr("Sums"));
+    out.heading(lines.front());
+    for (std::size_t index = 0; index < rows.size(); ++index) {
+        page::line(shortened(rows[index].front(), out.width));
+        page::line(lines[index + 1]);
+    }
 }
 
 /// What is to be told of files that hold no invoice.
@@ -138,14 +157,14 @@ void show_others(const page& out, const survey& all) {
 } // namespace
 
 void show_overview(const page& out, const survey& all) {
-    table shown({{tr("Key"), false, 3},
+    table shown({{tr("Key"), false, 5},
                  {tr("Number"), true},
-                 {tr("Date")},
-                 {tr("Issuer"), false, 0, 14},
-                 {tr("Recipient"), false, 2, 14},
+                 {tr("Date"), false, 2},
+                 {tr("Issuer"), false, 1, 14},
+                 {tr("Recipient"), false, 4, 14},
                  {tr("Total"), true},
                  {tr("Marks"), false, 0, 10},
-                 {tr("File"), false, 4}});
+                 {tr("File"), false, 6}});
     std::vector<const surveyed*> in_table;
     for (const surveyed& invoice : all.invoices) {
         if (invoice.failure.empty()) {
@@ -254,12 +273,12 @@ std::string heading_of(grouping by) {
 void show_groups(const page& out, const survey& all, grouping by) {
     const bool items = by == grouping::cfop || by == grouping::ncm;
     table shown({{heading_of(by)},
-                 {tr("Name"), false, 0, 16},
-                 {tr("Marks"), false, 0, 10},
-                 {items ? tr("Items") : tr("Invoices"), true},
+                 {tr("Name"), false, 1, 16},
+                 {tr("Marks"), false, 0, 8},
+                 {items ? tr("Items") : tr("Invoices"), true, 2},
                  {items ? tr("Products") : tr("Total"), true},
-                 {"ICMS", true, 1},
-                 {"IPI", true, 2}});
+                 {"ICMS", true, 3},
+                 {"IPI", true, 4}});
     for (const auto& [which, sums] :
          items ? groups_of_items(all, by) : groups_of_invoices(all, by)) {
         shown.add({which.id, sums.name,

@@ -182,6 +182,16 @@ layout::invoice_document read_invoice(const layout::tree& tree) {
     }
 }
 
+std::string id_in(const layout::node& infnfe, const std::string& group) {
+    for (const char* const name : {"CNPJ", "CPF", "idEstrangeiro"}) {
+        std::string id(layout::text_at(infnfe, group + '/' + name));
+        if (!id.empty()) {
+            return id;
+        }
+    }
+    return {};
+}
+
 kivo::core::v7::optional<layout::protocol> answer_in(const layout::tree& tree) {
     const layout::node* const answer = layout::child_named(tree.root(), "protNFe");
     return answer == nullptr ? kivo::core::v7::optional<layout::protocol>()

@@ -23,6 +23,12 @@ struct source {
     std::vector<layout::event> events;
 };
 
+/// A file that was read, with its name.
+struct named_source {
+    std::string path;
+    source content;
+};
+
 /// Reads a file. Throws std::runtime_error, without its name, where that cannot be done, and where
 /// neither an invoice is in it nor what belongs to one.
 source read_source(const std::string& path, std::size_t limit);
@@ -35,6 +41,9 @@ source read_single(const std::string& path, std::size_t limit);
 
 /// Reads the objects of an invoice. Throws std::runtime_error where it has no content.
 layout::invoice_document read_invoice(const layout::tree& tree);
+
+/// CNPJ, CPF or foreign number of a group, as the document has it: not every one has a field.
+std::string id_in(const layout::node& infnfe, const std::string& group);
 
 /// The answer that stands beside an invoice.
 kivo::core::v7::optional<layout::protocol> answer_in(const layout::tree& tree);

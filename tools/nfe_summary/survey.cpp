@@ -44,17 +44,6 @@ nature nature_of(const fiscal::nota_fiscal& invoice) {
                : nature::regular;
 }
 
-/// CNPJ or CPF as the document has them: not every one has a field.
-std::string id_in(const layout::node& infnfe, const std::string& group) {
-    for (const char* const name : {"CNPJ", "CPF", "idEstrangeiro"}) {
-        std::string id(layout::text_at(infnfe, group + '/' + name));
-        if (!id.empty()) {
-            return id;
-        }
-    }
-    return {};
-}
-
 std::size_t content_of(const layout::node& infnfe) {
     const std::hash<std::string_view> hash;
     std::size_t result = 0;
@@ -145,7 +134,7 @@ struct surveyed_file {
     std::vector<layout::protocol> answers;
 };
 
-surveyed_file survey_source(const std::string& path, source file, survey_detail detail) {
+surveyed_file survey_source(const std::string& path, const source& file, survey_detail detail) {
     surveyed_file result;
     for (std::size_t index = 0; index < file.invoices.size(); ++index) {
         surveyed& added = result.invoices.emplace_back();
@@ -156,8 +145,8 @@ surveyed_file survey_source(const std::string& path, source file, survey_detail 
         }
         added.file = name_in(path, file, index);
     }
-    result.events = std::move(file.events);
-    result.answers = std::move(file.answers);
+    result.events = file.events;
+    result.answers = file.answers;
     return result;
 }
 
@@ -280,9 +269,11 @@ survey survey_of(const std::vector<std::string>& paths, std::size_t limit, surve
     return all;
 }
 
-survey survey_of(const std::string& path, source file, survey_detail detail) {
+survey survey_of(const std::deque<named_source>& files, survey_detail detail) {
     survey all;
-    add(all, path, survey_source(path, std::move(file), detail));
+    for (const named_source& file : files) {
+        add(all, file.path, survey_source(file.path, file.content, detail));
+    }
     settle(all);
     return all;
 }

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <string>
 #include <vector>
 
@@ -106,8 +107,8 @@ enum class survey_detail {
 /// Reads files on all cores, and tells what events, answers and repeated keys make of the invoices.
 survey survey_of(const std::vector<std::string>& paths, std::size_t limit, survey_detail detail);
 
-/// The same of a file that is read already.
-survey survey_of(const std::string& path, source file, survey_detail detail);
+/// The same of files that are read already.
+survey survey_of(const std::deque<named_source>& files, survey_detail detail);
 
 /// What an event tells, in one line.
 std::string event_text(const layout::event& event);

@@ -130,6 +130,13 @@ std::string time_text(const std::string& text) {
                : joined({day_first(text), text.substr(11, 8), text.substr(19)}, " ");
 }
 
+std::string day_in(const std::string& text) { return text.substr(0, text.find(' ')); }
+
+std::string hour_in(const std::string& text) {
+    const std::size_t space = text.find(' ');
+    return space == text.npos ? "" : text.substr(space + 1, text.find(' ', space + 1) - space - 1);
+}
+
 std::string key(std::string_view text) {
     return punctuated(text, "#### #### #### #### #### #### #### #### #### #### ####");
 }
@@ -141,16 +148,35 @@ std::string cnpj_text(const optional<fiscal::cnpj>& number) {
 
 std::string cpf_text(std::string_view number) { return punctuated(number, "###.###.###-##"); }
 
-std::string address(const fiscal::endereco& place) {
-    const auto postal_code = place.get_cep();
-    const std::string digits =
-        postal_code ? layout::text_of(*postal_code, layout::digits(8)).value_or("") : "";
+std::string id_text(std::string_view characters) {
+    constexpr std::size_t person = 11;
+    return characters.size() == person ? cpf_text(characters)
+                                       : punctuated(characters, "##.###.###/####-##");
+}
+
+std::string postal_code(std::string_view digits) { return punctuated(digits, "#####-###"); }
+
+std::string postal_code(const fiscal::endereco& place) {
+    const auto code = place.get_cep();
+    return code ? postal_code(layout::text_of(*code, layout::digits(8)).value_or("")) : "";
+}
+
+std::string phone(std::string_view digits) {
+    constexpr std::size_t mobile = 11;
+    return punctuated(digits, digits.size() == mobile ? "(##) #####-####" : "(##) ####-####");
+}
+
+std::string street(const fiscal::endereco& place) {
     return joined({place.get_logradouro(), place.get_numero_endereco(),
-                   place.get_complemento().value_or(""), place.get_bairro(),
-                   joined({punctuated(digits, "#####-###"),
-                           joined({place.get_nome_municipio(), place.get_uf()}, " - ")},
-                          " "),
-                   place.get_pais().value_or("")});
+                   place.get_complemento().value_or("")});
+}
+
+std::string address(const fiscal::endereco& place) {
+    return joined(
+        {street(place), place.get_bairro(),
+         joined({postal_code(place), joined({place.get_nome_municipio(), place.get_uf()}, " - ")},
+                " "),
+         place.get_pais().value_or("")});
 }
 
 } // namespace nfe_summary

@@ -55,11 +55,28 @@ std::string time_text(const std::string& text);
 /// `12/08/2026 13:45:10 -03:00`.
 std::string time(const optional<fiscal::datetime>& value);
 
+/// The day and the time of day in what time_text makes.
+std::string day_in(const std::string& text);
+std::string hour_in(const std::string& text);
+
 /// An access key in groups of four.
 std::string key(std::string_view text);
 
 std::string cnpj_text(const optional<fiscal::cnpj>& number);
 std::string cpf_text(std::string_view number);
+
+/// A CNPJ or CPF from its characters; another number stays.
+std::string id_text(std::string_view characters);
+
+/// `86010-140`; another text stays.
+std::string postal_code(std::string_view digits);
+std::string postal_code(const fiscal::endereco& place);
+
+/// `(43) 3333-1207`; another number stays.
+std::string phone(std::string_view digits);
+
+/// Street, number and complement.
+std::string street(const fiscal::endereco& place);
 
 /// Street, number, complement, district, postal code, city, state and country in one text.
 std::string address(const fiscal::endereco& place);
