@@ -148,6 +148,15 @@ def layout_faults(place, elements):
         yield f"{place.path}: optional, although the layout demands the group"
 
 
+def default_faults(place, root):
+    """A 0 that is no code of the layout is not written."""
+    header = "".join(path.read_text() for name in (place.owner, place.type)
+                     if (path := root / f"fiscal/{name}.hpp").exists())
+    unset = re.search(rf"enum class {place.type} [^}}]*?\w+ = 0,\s+///< never set; not a code", header)
+    if unset and place.count == "plain" and not place.omit_default:
+        yield f"{place.path}: {place.owner}::{place.getter} is written before it is set"
+
+
 def order_faults(places, elements):
     """The map has the layout's order. Alternatives have that of their indices, attributes any."""
     order = {path: number for number, path in enumerate(elements)}
@@ -190,6 +199,7 @@ def faults(folder, root):
     for place in places:
         if place.kind != "without element":
             yield from layout_faults(place, elements)
+            yield from default_faults(place, root)
     yield from order_faults(places, elements)
 
 

@@ -301,6 +301,10 @@ TEST(kept, goes_to_its_place_or_is_refused_with_a_reason) {
         try {
             const std::string written = write_xml(document.invoice, document.outside, kept);
             EXPECT_NE(written.find(row.expected), written.npos) << row.expected << '\n' << written;
+            const std::vector<placed_text> again = read_xml(written).kept;
+            for (const placed_text& added : row.added) {
+                EXPECT_EQ(std::count(again.begin(), again.end(), added), 1) << added.path;
+            }
         } catch (const std::invalid_argument& failure) {
             EXPECT_EQ(failure.what(), row.expected);
         }

@@ -89,7 +89,10 @@ run 0 '271.828.182-05' "$data/nfce.xml"
 run 0 'Authorisation   none in the file' "$data/export.xml"
 run 0 'Environment     test, without fiscal value' "$data/selective-tax.xml"
 run 0 'Key                                           Number' --width 200 "$data"
+run 0 '1  320   Gasolina A comum           27101259  5652     3.000  LT          2,91' \
+    --width 200 "$data/ibs-cbs-monophasic.xml"
 run 0 '1  a field cannot hold a text of the file' --help
+[[ $(head -1 "$folder/out") = 'Usage: nfe_summary '* ]] || fault 'the help begins otherwise'
 shows '0  all is well' '2  a file cannot be read'
 
 # No width is exceeded, and columns stand below each other, accents or not.
@@ -141,6 +144,16 @@ if [ "$(id -u)" != 0 ]; then
     chmod 0 "$folder/closed"
     run 2 'closed: cannot be read: Permission denied' "$folder/closed" "$data/nfe.xml"
 fi
+( # a path that is too long cannot be read by root either
+    mkdir "$folder/deep"
+    cd "$folder/deep"
+    for _ in {1..17}; do
+        mkdir "$(printf '%0250d' 0)"
+        cd 0*
+    done
+)
+run 2 'deep/000' "$folder/deep" "$data/nfe.xml"
+grep -qF '17.301,39' "$folder/out" || fault 'nothing told of the files that can be read'
 for arguments in '' --json --xml --csv --help --check; do
     echo '<NFe><infNFe><ide/></infNFe></NFe>' > "$folder/faulty.xml"
     status=0
@@ -262,6 +275,7 @@ sums 'authorised 1 17.301,39'
 event 110110 '<xCorrecao>Leia-se Rua B</xCorrecao>' 135 "$key" > "$many/y.xml"
 run 0 'correction letter 2 of 13/08/2026 08:00:00 -03:00: Leia-se Rua B' "$many/1.xml" "$many/y.xml"
 sums 'authorised 1 17.301,39'
+run 0 'z.xml: holds no invoice, but what belongs to one' --json "$many/z.xml"
 run 0 'Cancellation' "$many/z.xml"
 shows "${key:0:4} ${key:4:4}" 'Justification   Pedido desfeito'
 run 0 'is not among the files' "$data/difal.xml" "$many/z.xml"
@@ -328,6 +342,9 @@ for how in --width=100 --xml; do
     run 0 '@versao: "3.10" is read as 4.00' $how "$folder/release.xml"
     run 0 'NFe/infNFe[2]: another invoice in the same NFe, not read' $how "$folder/second.xml"
 done
+
+sed 's|</nItemPed>|&<nFCI>7</nFCI>|' "$data/nfe.xml" > "$folder/repeated.xml"
+run 0 'det/prod/nFCI (3 times)' --width=200 "$folder/repeated.xml"
 
 # What the layout does not allow is listed, with the file.
 run 0 '' --check "$data"
