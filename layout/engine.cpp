@@ -177,7 +177,7 @@ void reader::finish(const table& known, const frame& read, const node& parent, c
         const bool stored = (read.stored & bit_of(index)) != 0;
         const bool stands = entry.stands == nullptr || entry.stands(object);
         tree written;
-        if (!stored && stands && entry.plain) {
+        if (!stored && stands && (known.plain & bit_of(index)) != 0) {
             written = written_by(*outside_, [&](writer& out) { entry.write(out, object); });
             for (const placed_text& text : texts_of(written.root())) {
                 const std::string_view path = text.path;

@@ -44,7 +44,6 @@ struct table_entry {
     void (*write)(writer&, const void* object);
     bool (*stands)(const void* object); ///< whether it is written; null: always
     std::size_t field; ///< the first of the entries that leave no room for each other, by index
-    bool plain;        ///< cannot tell absence: may be written although nothing was read
 };
 
 /// A name that can stand in an element, and the entry that knows it.
@@ -61,8 +60,9 @@ struct table {
 
     std::span<const table_name> names; ///< in the layout's order
     std::span<const table_entry> entries;
-    std::uint64_t plain;       ///< the plain entries, as bits
-    std::uint64_t conditional; ///< those that have a condition
+    /// The entries that cannot tell absence, as bits: they may be written though nothing was read.
+    std::uint64_t plain;
+    std::uint64_t conditional; ///< those that have a condition, as bits
 
     /// Where a name stands, looked for from where it is expected; `none` where it does not.
     std::size_t find(const element_name& name, std::size_t expected = 0) const {
@@ -803,7 +803,8 @@ template <class Class> struct table_filler {
     std::string_view* fields = nullptr; // the getters of the entries
     std::size_t name_count = 0;
     std::size_t entry_count = 0;
-    std::uint64_t conditional = 0; // a bit for each entry that is not always written
+    std::uint64_t plain = 0; // this and the next as the table has them
+    std::uint64_t conditional = 0;
 
     template <class... Entry> constexpr void add_all(entries<Entry...>) { (add<Entry>(), ...); }
 
@@ -820,8 +821,7 @@ template <class Class> struct table_filler {
                     beside = fields[index] == own_field ? index : beside;
                 }
                 list[entry_count] = {&action<Class, Entry>::read, &action<Class, Entry>::write,
-                                     stands<Entry>(), beside == table::none ? entry_count : beside,
-                                     action<Class, Entry>::plain};
+                                     stands<Entry>(), beside == table::none ? entry_count : beside};
             }
             action<Class, Entry>::names([&](const table_name& name) {
                 if (names != nullptr) {
@@ -829,6 +829,7 @@ template <class Class> struct table_filler {
                 }
                 ++name_count;
             });
+            plain |= std::uint64_t{action<Class, Entry>::plain} << entry_count;
             if constexpr (requires { Entry::condition; }) {
                 conditional |= std::uint64_t{1} << entry_count;
             }
@@ -908,16 +909,8 @@ private:
         return result;
     }();
 
-    static constexpr std::uint64_t plain = [] {
-        std::uint64_t bits = 0;
-        for (std::size_t index = 0; index < filled.list.size(); ++index) {
-            bits |= std::uint64_t{filled.list[index].plain} << index;
-        }
-        return bits;
-    }();
-
 public:
-    static constexpr table whole{filled.names, filled.list, plain, counted.conditional};
+    static constexpr table whole{filled.names, filled.list, counted.plain, counted.conditional};
 };
 
 /// The element of a group alone, with what its map writes in it.
