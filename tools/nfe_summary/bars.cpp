@@ -51,14 +51,17 @@ optional<bars> drawn(const symbol_owner& symbol, std::string_view text, float ma
 
 } // namespace
 
-optional<bars> key_bars(std::string_view key) {
+bool is_key(std::string_view text) {
     constexpr std::size_t length = 44;
-    const bool is_key =
-        key.size() == length && std::all_of(key.begin(), key.end(), [](char character) {
-            return (character >= '0' && character <= '9') || (character >= 'A' && character <= 'Z');
-        });
+    return text.size() == length && std::all_of(text.begin(), text.end(), [](char character) {
+               return (character >= '0' && character <= '9') ||
+                      (character >= 'A' && character <= 'Z');
+           });
+}
+
+optional<bars> key_bars(std::string_view key) {
     const symbol_owner symbol = symbol_of(BARCODE_CODE128);
-    if (!is_key || !symbol) {
+    if (!is_key(key) || !symbol) {
         return {};
     }
     symbol->height = 50;

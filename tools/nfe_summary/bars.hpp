@@ -18,6 +18,9 @@ struct bars {
     std::string path; ///< of the dark parts, as SVG has paths
 };
 
+/// Whether a text has as many characters as an access key, and none that no key has.
+bool is_key(std::string_view text);
+
 /// An access key in Code 128, digits in pairs (128C); absent for what is none.
 optional<bars> key_bars(std::string_view key);
 

@@ -22,8 +22,6 @@ std::string system_reason(int error) {
 
 namespace {
 
-constexpr std::size_t megabyte = 1'048'576;
-
 [[noreturn]] void fail(int error) {
     throw std::runtime_error(say("cannot be read: {}", system_reason(error)));
 }

@@ -10,6 +10,8 @@ namespace nfe_summary {
 /// The name of standard input.
 inline constexpr const char* standard_input = "-";
 
+inline constexpr std::size_t megabyte = 1'048'576; ///< in bytes
+
 /// What the system says of an error, in the chosen language.
 std::string system_reason(int error);
 

@@ -88,11 +88,10 @@ void add_warnings(markup sheet, const form_source& from) {
 
 /// What stands below each sheet of paper. No more of a file than a key may be in a style.
 std::string paper_style(const form_source& from) {
-    const std::string key = key_bars(from.told.key) ? nfe_summary::key(from.told.key) : "";
+    const std::string shown = is_key(from.told.key) ? key(from.told.key) : "";
     return fmt::format("@page{{@bottom-left{{content:\"{}  {}\"}}"
                        "@bottom-right{{content:\"{} \" counter(page) \"/\" counter(pages)}}}}",
-                       say("No. {}", form_number(from.invoice.get_numero())), nfe_summary::key(key),
-                       tr("SHEET"));
+                       say("No. {}", form_number(from.invoice.get_numero())), shown, tr("SHEET"));
 }
 
 } // namespace

@@ -30,10 +30,11 @@ namespace nfe_summary {
 
 namespace {
 
-/// A file that a single one is asked for; what is wrong with it names it.
-source single_of(const std::string& path, std::size_t limit) {
+/// A file, by `read_source` or `read_single`; what is wrong with it names it.
+source read_named(const std::string& path, std::size_t limit,
+                  source (*read)(const std::string&, std::size_t)) {
     try {
-        return read_single(path, limit);
+        return read(path, limit);
     } catch (const std::exception& failure) {
         throw std::runtime_error(path + ": " + failure.what());
     }
@@ -49,7 +50,7 @@ int tell_refusals(const std::string& name, const layout::report& told) {
 
 int run_xml(const arguments& given) {
     const std::string& path = given.paths.front();
-    const source file = single_of(path, given.limit);
+    const source file = read_named(path, given.limit, read_single);
     layout::invoice_document document;
     std::string xml;
     try {
@@ -75,11 +76,7 @@ int run_html(const arguments& given) {
     const named_source* of_invoice = nullptr;
     std::size_t count = 0;
     for (const std::string& path : given.paths) {
-        try {
-            files.push_back({path, read_source(path, given.limit)});
-        } catch (const std::exception& failure) {
-            throw std::runtime_error(path + ": " + failure.what());
-        }
+        files.push_back({path, read_named(path, given.limit, read_source)});
         const std::size_t more = files.back().content.invoices.size();
         of_invoice = more == 0 ? of_invoice : &files.back();
         count += more;
@@ -103,8 +100,8 @@ int run_html(const arguments& given) {
 int run_differences(const arguments& given) {
     const std::string& left_path = given.paths.front();
     const std::string& right_path = given.paths.back();
-    const source left = single_of(left_path, given.limit);
-    const source right = single_of(right_path, given.limit);
+    const source left = read_named(left_path, given.limit, read_single);
+    const source right = read_named(right_path, given.limit, read_single);
     const bool differ =
         write_differences(left_path, *left.invoices.front(), right_path, *right.invoices.front());
     return differ ? something_told : all_well;

@@ -133,7 +133,6 @@ void take(arguments& given, std::size_t index, const char* value) {
         }
         given.wanted = wanted;
     };
-    constexpr std::size_t megabyte = 1024 * 1024;
     switch (static_cast<id>(index)) {
     case id::by:
         given.by = grouping_of(word(option_table[index], value));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "content.hpp"
 #include "overview.hpp"
 
 #include <cstddef>
@@ -19,11 +20,11 @@ struct arguments {
     std::vector<std::string> paths;
     output wanted = output::summary;
     grouping by = grouping::none;
-    bool only_fields = false;             ///< --xml: without what has no field
-    bool items = false;                   ///< --csv: a line for each
-    std::size_t limit = 64 * 1024 * 1024; ///< bytes of a file
-    std::size_t width = 0;                ///< 0: the terminal's
-    std::string language;                 ///< empty: the environment's; chosen already
+    bool only_fields = false;          ///< --xml: without what has no field
+    bool items = false;                ///< --csv: a line for each
+    std::size_t limit = 64 * megabyte; ///< bytes of a file
+    std::size_t width = 0;             ///< 0: the terminal's
+    std::string language;              ///< empty: the environment's; chosen already
     bool help = false;
     bool version = false;
 };
