@@ -450,16 +450,16 @@ struct alternative<word::inside<Name, Place...>, Alternative> {
     }
     static bool is_own(const node&, const node& first) { return first.name == name_of<Name>; }
 
-    template <class Make> static taken read(reader& in, const node&, const node& first, Make make) {
+    template <class Make> static taken read(reader& in, const node&, const node& outer, Make make) {
         taken result;
-        in.tell_text_in_group(first);
-        for (const node& child : children(first)) {
+        in.tell_text_in_group(outer);
+        for (const node& child : children(outer)) {
             if (!inner::knows(child.name)) {
                 in.tell_no_field(child);
             } else if (result.stored) {
                 in.tell_no_room(child);
             } else {
-                result = inner::read(in, first, child, make);
+                result = inner::read(in, outer, child, make);
             }
         }
         return {result.stored};

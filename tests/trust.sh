@@ -82,12 +82,18 @@ valgrinding() {
 }
 
 sanitizers() {
+    local what
     say "all tests under the address and undefined-behaviour sanitizers"
     ctest --test-dir build/asan --output-on-failure --no-tests=error --parallel "$processors" \
         > "$logs/sanitizers" 2>&1 &
     wait_for "$!=$logs/sanitizers"
     figure "$(sum_of '.* 0 tests failed out of \([0-9]*\)$' "$logs/sanitizers")" \
-        "test programs under the address and undefined-behaviour sanitizers"
+        "tests and test programs under the address and undefined-behaviour sanitizers"
+    for what in 'elements and attributes of the layout' 'codes, bounds and other texts of theirs' \
+        'documents with one fault or none'; do
+        figure "$(sum_of "^tried: \([0-9]*\) $what$" build/asan/Testing/Temporary/LastTest.log)" \
+            "$what"
+    done
 }
 
 threads() {

@@ -176,7 +176,8 @@ def changed_limits(path):
                   lambda found: " " * len(found.group()), text)
     other = {"<": "<=", "<=": "<", ">": ">=", ">=": ">", "==": "!=", "!=": "==", "&&": "||",
              "||": "&&", "+": "-", "-": "+"}
-    for use in re.finditer(r"(?<![\w.'])\d[\d']*(?=[^\w'\d]|U\b)| (<=?|>=?|==|!=|&&|\|\||\+|-) ", code):
+    for use in re.finditer(r"(?<![\w.'])\d[\d']*(?=[^\w'\d]|U\b)"
+                           r"| (<=?|>=?|==|!=|&&|\|\||\+|-) ", code):
         number = None if use.group(1) else int(use.group().replace("'", ""))
         for wrong in [f" {other[use.group(1)]} "] if number is None else [number + 1, number - 1]:
             if wrong != -1:
@@ -403,7 +404,8 @@ class Worker:
                     self.folder / "suites.cpp", tests / "support/allocations.cpp",
                     tests / "support/tried.cpp"]):
                 return found
-            if not self.run(tests / "abi/abi.sh", "compare", self.folder / "libkivo-erp-fiscal.so.12"):
+            if not self.run(tests / "abi/abi.sh", "compare",
+                            self.folder / "libkivo-erp-fiscal.so.12"):
                 return "abi"
         programs = self.build.folder / "tests"
         # what is most likely to find it comes first

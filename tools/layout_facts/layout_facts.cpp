@@ -173,14 +173,15 @@ template <characters Name> inline constexpr bool is_as<word::as<Name>> = true;
 
 template <class Place, class Value>
 void print_alternative(const surroundings& around, const fact& choice) {
-    fact told = choice;
     if constexpr (is_as<Place>) {
+        fact told = choice;
         told.kind = "alternative";
         print_element<Value>(around, Place::name, told);
     } else if constexpr (requires { typename Place::places; }) {
         print_alternatives<Value>(typename Place::places(),
                                   around.below(std::string(Place::name) + '/'), choice);
     } else if constexpr (requires { Place::text; }) {
+        fact told = choice;
         told.marker = Place::name;
         print_embedded<Value>(around, told);
     } else {

@@ -33,7 +33,7 @@ std::string language_of_environment() {
     }
     std::string list = variable("LANGUAGE");
     while (!list.empty()) {
-        const std::string first = list.substr(0, list.find(':'));
+        std::string first = list.substr(0, list.find(':'));
         if (first.starts_with("pt") || first.starts_with("en")) {
             return first;
         }

@@ -178,7 +178,7 @@ int run_check(const arguments& given, const file_list& files) {
         files.paths, given.limit,
         [](const std::string& name, const layout::tree& tree, bool, written_file& made) {
             for (const std::string& fault : faults_of(tree)) {
-                made.text += harmless(name + ": " + fault) + '\n';
+                made.text += fmt::format("{}\n", harmless(fmt::format("{}: {}", name, fault)));
                 made.status = std::max(made.status, something_told);
             }
         });

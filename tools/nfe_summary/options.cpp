@@ -220,6 +220,7 @@ std::span<const example_text> examples() { return example_table; }
 
 arguments read_arguments(int argc, char** argv) {
     std::vector<option> known;
+    known.reserve(std::size(option_table) + 1);
     for (const option_text& text : option_table) {
         known.push_back(
             {text.name, text.argument == nullptr ? no_argument : required_argument, nullptr, 0});

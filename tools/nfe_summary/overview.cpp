@@ -205,7 +205,7 @@ struct group {
     share which;
     bool outside = false; ///< items that are not part of a total
 
-    auto operator<=>(const group&) const = default;
+    auto operator<=>(const group&) const = default; // NOLINT: the compiler writes it
 };
 
 struct group_sums {
