@@ -3,6 +3,7 @@
 #include <layout/elements.hpp>
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace kivo::erp::v12::layout {
 
@@ -39,6 +40,31 @@ template <class Write> tree written_by(const outside_texts& outside, Write write
     result.open("");
     write(out);
     result.close();
+    return result;
+}
+
+/// Calls `visit(child, position)` for all in a group that has a place among the others.
+template <class Visit>
+void for_each_in_place(const node& group, const element_rule& rule, Visit visit) {
+    for (const node& child : children(group)) {
+        const element_rule* const own =
+            child.name.is_attribute() ? nullptr : rule.child(child.name);
+        if (own != nullptr) {
+            visit(child, own->position());
+        }
+    }
+}
+
+/// Whether what the layout knows in a group stands in its order there.
+bool in_order(const node& group, const element_rule* rule) {
+    unsigned last = 0;
+    bool result = true;
+    if (rule != nullptr) {
+        for_each_in_place(group, *rule, [&](const node&, unsigned position) {
+            result = result && position >= last;
+            last = position;
+        });
+    }
     return result;
 }
 
@@ -107,13 +133,24 @@ frame reader::read_elements(const table& known, const node& parent, void* object
         }
         take(known, name, parent, child, object, read);
         if (name < last && !child.name.is_attribute()) {
-            tell_if_moved(parent, child);
+            if (rule_ == nullptr) {
+                tell_moved(child, "in the layout's order");
+            } else {
+                mixed_.insert(&parent);
+            }
         }
         last = child.name.is_attribute() ? last : name;
         expected = name + 1;
     }
     tell_text_in_group(parent);
     return read;
+}
+
+void reader::read(void* object) {
+    read_whole(*known_, *root_, object);
+    if (!mixed_.empty()) {
+        tell_order();
+    }
 }
 
 void reader::read_whole(const table& known, const node& parent, void* object,
@@ -302,34 +339,40 @@ void reader::tell_text_in_group(const node& group) {
     }
 }
 
-bool reader::is_moved(const node& group, const node& element) {
-    if (ordered_.insert(&group).second) {
-        const element_rule* const rule = rule_of(group);
-        const node* before = nullptr; // the last that the layout has
-        unsigned last = 0;
-        for (const node& child : children(group)) {
-            if (child.name.is_attribute()) {
-                continue;
-            }
-            const element_rule* const own = rule == nullptr ? nullptr : rule->child(child.name);
-            if (own == nullptr) {
-                moved_.insert(&child);
-                continue;
-            }
-            if (before != nullptr && last > own->position()) {
-                moved_.insert(before);
-                moved_.insert(&child);
-            }
-            before = &child;
-            last = own->position();
+void reader::tell_order() {
+    std::erase_if(mixed_, [&](const node* group) { return in_order(*group, rule_of(*group)); });
+    std::unordered_set<std::string_view> gone;
+    for (const auto* const list : {&told_->refused, &told_->without_room}) {
+        for (const report::remark& remark : *list) {
+            gone.insert(remark.path);
         }
     }
-    return moved_.contains(&element);
-}
-
-void reader::tell_if_moved(const node& group, const node& child) {
-    if (is_moved(group, child)) {
-        tell_moved(child, "in the layout's order");
+    const auto is_gone = [&](const node& element) { return gone.contains(path_(element)); };
+    for (const node* const group : mixed_) {
+        const node* above = group;
+        while (above != root_ && !is_gone(*above)) {
+            above -= above->up;
+        }
+        if (above != root_) {
+            continue;
+        }
+        const node* before = nullptr;
+        const node* moved = nullptr;
+        unsigned last = 0;
+        for_each_in_place(*group, *rule_of(*group), [&](const node& child, unsigned position) {
+            if (is_gone(child)) {
+                return;
+            }
+            if (before != nullptr && position < last) {
+                const node* const told = has_field(child) && !has_field(*before) ? before : &child;
+                if (told != moved) {
+                    tell_moved(*told, "in the layout's order");
+                }
+                moved = told;
+            }
+            before = &child;
+            last = position;
+        });
     }
 }
 
@@ -386,9 +429,7 @@ void reader::tell_no_field(const node& element) {
     } else if (path_.number_of(element) > rule->most()) {
         tell_no_room(element);
     } else {
-        if (!element.name.is_attribute()) {
-            tell_if_moved(*(&element - element.up), element);
-        }
+        mixed_.insert(&element - element.up);
         told_->without_field.push_back(std::move(path));
         keep(element, *rule, written_path(element));
     }
@@ -397,6 +438,7 @@ void reader::tell_no_field(const node& element) {
 void reader::keep(const node& element, const element_rule& rule, const std::string& path) {
     const std::size_t kept = kept_->size();
     if (rule.is_group()) {
+        mixed_.insert(&element);
         tell_text_in_group(element);
     } else if (!element.text.empty()) {
         kept_->push_back({path, std::string(element.text)});
@@ -409,9 +451,6 @@ void reader::keep(const node& element, const element_rule& rule, const std::stri
         } else if (number > inner->most()) {
             tell_no_room(child);
         } else {
-            if (!child.name.is_attribute()) {
-                tell_if_moved(element, child);
-            }
             keep(child, *inner,
                  path_below(path, with_number(child.name, inner->most() > 1 ? number : 0)));
         }

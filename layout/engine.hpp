@@ -10,13 +10,13 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <set>
 #include <span>
 #include <string>
 #include <string_view>
 #include <tuple>
 #include <type_traits>
 #include <unordered_map>
-#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -94,6 +94,8 @@ public:
 
     outside_texts& outside() const { return *outside_; }
 
+    /// Reads the root.
+    void read(void* object);
     /// Reads all elements in a group, and then what `finish` tells.
     void read_whole(const table& known, const node& parent, void* object,
                     std::string_view numbering = {});
@@ -171,9 +173,9 @@ private:
     void tell_lost(const table_name& name, const node& element, const node* written_parent);
     /// The same of elements before the first of their name that an entry stored.
     void tell_lost_before(const table_name& name, const node& parent, const node& stored);
-    /// Tells that an element is not where the layout has it, between those that stand beside it.
-    void tell_if_moved(const node& group, const node& child);
-    bool is_moved(const node& group, const node& element);
+    /// Tells what is written behind something that it stands before. What is not written at all
+    /// moves nothing, and is known when all is read.
+    void tell_order();
     /// The layout's rule of an element; null where it has none.
     const element_rule* rule_of(const node& element) const;
     /// What is known in an element, by any of those that read its parent; null where nothing is.
@@ -192,8 +194,7 @@ private:
     const table* known_;       // in the root
     const element_rule* rule_; // of the root
     std::unordered_map<const node*, std::uint32_t> renumbered_;
-    std::unordered_set<const node*> ordered_; // groups whose order was looked at
-    std::unordered_set<const node*> moved_;   // what is not in its place in them
+    std::set<const node*> mixed_; // groups whose elements may have to move
     outside_texts* outside_;
     std::vector<placed_text>* kept_;
     report* told_;
@@ -929,7 +930,7 @@ template <group Class> report read_fields(const node& element, Class& object) {
     outside_texts outside;
     std::vector<placed_text> kept;
     const table& known = table_of<map_of<Class>>();
-    reader(element, known, nullptr, outside, kept, result).read_whole(known, element, &object);
+    reader(element, known, nullptr, outside, kept, result).read(&object);
     return result;
 }
 

@@ -75,7 +75,7 @@ invoice_document read_document(const tree& document) {
     const node& infnfe = invoice_in(document);
     invoice_document result;
     reader(infnfe, invoice_table(), &infnfe_rule(), result.outside, result.kept, result.report)
-        .read_whole(invoice_table(), infnfe, &result.invoice);
+        .read(&result.invoice);
     path_teller path(document.root());
     add_beside(document.root(), infnfe, path, result.beside);
     return result;

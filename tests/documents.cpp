@@ -406,16 +406,25 @@ TEST(documents, tell_what_the_objects_cannot_tell) {
              infnfe.at("det/imposto").inner.push_back(small_element("det/imposto/ISSQN"));
          },
          {"no room: det/imposto/ISSQN [] "}},
+        {"ide/xJust",
+         [](element& infnfe) {
+             std::vector<element>& inner = infnfe.at("ide").inner;
+             const element last = infnfe.at("ide/verProc");
+             std::erase_if(inner, [](const element& each) { return each.name == "verProc"; });
+             inner.push_back(infnfe.at("ide/tpNF"));
+             inner.push_back(last);
+         },
+         {"otherwise: ide/verProc [] in the layout's order", "no room: ide/tpNF[2] [0] "}},
         {"det/prod/arma",
          [](element& infnfe) {
              infnfe.at("det/prod").inner.push_back(small_element("det/prod/med"));
          },
-         {"otherwise: det/prod/med [] in the layout's order", "no room: det/prod/med [] "}},
+         {"no room: det/prod/med [] "}},
         {"det/prod/comb",
          [](element& infnfe) {
              infnfe.at("det/prod").inner.push_back(small_element("det/prod/med"));
          },
-         {"otherwise: det/prod/med [] in the layout's order", "no room: det/prod/med [] "}},
+         {"no room: det/prod/med [] "}},
         {ipi + "/IPITrib",
          [&](element& infnfe) {
              infnfe.at(ipi).inner.push_back(small_element("det/imposto/IPI/IPINT"));

@@ -181,36 +181,33 @@ private:
         parent->text = remark.instead;
     }
 
-    /// What stands in another order than the layout's, and only that, is told to be moved.
+    /// Of two that are written in the other order one is told to be moved, and nothing else is.
     void check_moves(const told_element& parent, const element_rule& rule) {
+        const told_element* before = nullptr;
         unsigned last = 0;
-        bool last_told = false;
-        bool any_move = false;
-        bool any_told = false;
-        unsigned last_written = 0;
+        bool excused = true; // whether the one before is told to move, and does
         for (const told_element& each : parent.inner) {
             const element_rule* const own = rule.child(each.name);
-            if (own == nullptr || each.is_attribute() || each.added) {
+            if (each.removed && each.moved) {
+                faults_.push_back(rule.path() + ": what is gone is told to move");
+            }
+            if (own == nullptr || each.is_attribute() || each.added || each.removed) {
                 continue;
             }
-            // of two in the wrong order, either is told
-            if (last_told && last <= own->position()) {
+            const bool moves = before != nullptr && own->position() < last;
+            if (moves && !before->moved && !each.moved) {
+                faults_.push_back(rule.path() + ": its elements move, which is not told");
+            }
+            if (!excused && !moves) {
                 faults_.push_back(rule.path() + ": an element is told to move, and does not");
             }
-            last_told = each.moved && own->position() >= last;
+            excused = moves || !each.moved;
             last = own->position();
-            any_told = any_told || each.moved;
-            any_move = any_move || (!each.removed && own->position() < last_written);
-            last_written = each.removed ? last_written : own->position();
-            if (!each.removed) {
-                check_moves(each, *own);
-            }
+            before = &each;
+            check_moves(each, *own);
         }
-        if (last_told) {
+        if (!excused) {
             faults_.push_back(rule.path() + ": its last element is told to move, and does not");
-        }
-        if (any_move && !any_told) {
-            faults_.push_back(rule.path() + ": its elements move, which is not told");
         }
     }
 
