@@ -34,6 +34,8 @@ ALWAYS = ['cmake', 'ninja-build', 'ccache', 'gettext', 'pkg-config', 'python3', 
 NATIVE = ['libgtest-dev', 'libpugixml-dev', 'libfmt-dev', 'libutf8proc-dev', 'libzint-dev',
           'librapidcheck-dev', 'gdb', 'jq', 'zbar-tools']
 NO_RAPIDCHECK = 'rapidcheck is there as a library for g++ alone'
+# in a build for users alone
+ELSEWHERE = dict.fromkeys(('contributing', 'package'), 'builds all once more; `./dev test` runs it')
 
 
 @dataclasses.dataclass
@@ -47,18 +49,22 @@ class Platform:
     toolchain: bool = True       # cmake/toolchains/NAME.cmake
     unpacked: list = dataclasses.field(default_factory=list)
     built: list = dataclasses.field(default_factory=list)
+    type: str = 'RelWithDebInfo'
     flags: str = '-O1'
     options: list = dataclasses.field(default_factory=list)
     environment: dict = dataclasses.field(default_factory=dict)
     skipped: dict = dataclasses.field(default_factory=dict)  # tests of ctest: the reason
     left_out: dict = dataclasses.field(default_factory=dict)  # cases of a program: the reason
+    packed: tuple = ()  # its packages are made too: the compiler and what runs a program
 
 
-def foreign(name, what, triplet, architecture):
+def foreign(name, what, triplet, architecture, **options):
+    skipped = {'gdb': 'the debugger runs programs of its own processor'}
+    if 'packed' not in options:
+        skipped['abi'] = 'recorded where there are packages'
     return Platform(
         name, what, f'g++ 12 ({triplet})', [f'g++-12-{triplet}', 'qemu-user'],
-        architecture=architecture, unpacked=DEPENDENCIES,
-        skipped={'gdb': 'the debugger runs programs of its own processor'})
+        architecture=architecture, unpacked=DEPENDENCIES, skipped=skipped, **options)
 
 
 PLATFORMS = [
@@ -75,10 +81,14 @@ PLATFORMS = [
              unpacked=['libc++-19-dev', 'libc++1-19', 'libc++abi-19-dev', 'libc++abi1-19',
                        'libunwind-19'],
              built=list(SOURCES),
-             flags='-O1 -g -fsanitize=address,undefined -fno-sanitize-recover=all',
+             type='Debug',
+             # std::jthread is still an experiment there
+             flags='-O1 -g -fexperimental-library -fsanitize=address,undefined -fno-sanitize-recover=all',
              options=['-DKIVO_RANDOM_TESTS=OFF'],
-             skipped={'random_tests': NO_RAPIDCHECK, 'document_round_trip_tests': NO_RAPIDCHECK}),
-    foreign('arm64', '64-bit ARM under qemu', 'aarch64-linux-gnu', 'arm64'),
+             skipped={'random_tests': NO_RAPIDCHECK, 'document_round_trip_tests': NO_RAPIDCHECK,
+                      'interface': 'sanitizers add names of their own'}),
+    foreign('arm64', '64-bit ARM under qemu', 'aarch64-linux-gnu', 'arm64',
+            packed=('aarch64-linux-gnu-g++-12', 'qemu-aarch64')),
     foreign('s390x', 'big-endian under qemu', 's390x-linux-gnu', 's390x'),
     foreign('i686', '32 bits under qemu', 'i686-linux-gnu', 'i386'),
     foreign('armhf', '32-bit ARM under qemu', 'arm-linux-gnueabihf', 'armhf'),
@@ -108,7 +118,7 @@ def apt(architecture, log):
         ['apt-get', 'indextargets', '--format', '$(REPO_URI) $(RELEASE) $(LABEL)',
          'Created-By: Packages'], capture_output=True, text=True, check=True).stdout
     places = {tuple(line.split()[:2]) for line in targets.splitlines()
-              if line.split()[2].startswith('Debian')}
+              if line.split()[2] == 'Debian'}
     (state / 'sources.list').write_text(''.join(
         f'deb {place} {release} main\ndeb-src {place} {release} main\n'
         for place, release in sorted(places)))
@@ -170,22 +180,21 @@ def build_dependency(platform, name, root, log):
     mark.touch()
 
 
-def cases(folder):
-    """The cases of all GoogleTest programs that ran: passed, failed and skipped by themselves."""
+def cases(file):
+    """The cases of a GoogleTest program that ran: passed, failed and skipped by themselves."""
     passed = failed = skipped = 0
-    for file in sorted(folder.glob('*.xml')):
-        for case in xml.parse(file).iter('testcase'):
-            if case.find('failure') is not None:
-                failed += 1
-            elif case.get('result') in ('skipped', 'suppressed') or case.get('status') == 'notrun':
-                skipped += 1
-            else:
-                passed += 1
+    for case in xml.parse(file).iter('testcase'):
+        if case.find('failure') is not None:
+            failed += 1
+        elif case.get('result') in ('skipped', 'suppressed') or case.get('status') == 'notrun':
+            skipped += 1
+        else:
+            passed += 1
     return passed, failed, skipped
 
 
 def test(platform, build, log):
-    """Runs the tests; answers how many passed and failed."""
+    """Runs the tests; answers how many passed, failed and skipped themselves, and what failed."""
     results = build / 'cases'
     shutil.rmtree(results, ignore_errors=True)
     environment = dict(os.environ, GTEST_OUTPUT=f'xml:{results}/', **platform.environment)
@@ -198,26 +207,51 @@ def test(platform, build, log):
              '--output-junit', build / 'tests.xml',
              *(['--exclude-regex', f'^({"|".join(platform.skipped)})$'] if platform.skipped else [])],
             stdout=file, stderr=subprocess.STDOUT, env=environment, check=False)
-    passed, failed, themselves = cases(results)
+    sums = [0, 0, 0]
     failing = []
     for one in xml.parse(build / 'tests.xml').iter('testcase'):
         name = one.get('name')
-        told_by_case = (results / f'{name}.xml').exists()
-        if one.get('status') != 'run':
+        fine = one.get('status') == 'run'
+        told = results / f'{name}.xml'
+        numbers = list(cases(told)) if told.exists() else [int(fine), 0, 0]
+        if not fine:
             failing.append(name)
-            failed += not told_by_case
-        else:
-            passed += not told_by_case
-    return passed, failed, themselves, failing
+            numbers[1] = max(numbers[1], 1)  # a program may fail apart from its cases
+        sums = [sum(pair) for pair in zip(sums, numbers)]
+    return (*sums, failing)
 
 
-def size(build):
-    """The bytes of the library as it is shipped, without what is for debuggers."""
-    [library] = [file for pattern in ('*.so.12.*', '*-12.dll') for file in (build / 'fiscal').glob(pattern)]
-    stripped = build / 'stripped'
-    subprocess.run(['llvm-objcopy-19' if shutil.which('llvm-objcopy-19') else 'objcopy', '--strip-debug',
-                    library, stripped], check=True)
-    return stripped.stat().st_size
+def size(platform, root, log):
+    """The bytes of the library as users get it, without what is for debuggers."""
+    build = WORK / platform.name / 'release'
+    run(['cmake', '-S', SOURCE, '-B', build, '-G', 'Ninja', '-DCMAKE_BUILD_TYPE=Release',
+         '-DCMAKE_CXX_COMPILER_LAUNCHER=ccache', *platform.options, *toolchain(platform, root)], log)
+    run(['cmake', '--build', build, '--target', 'kivo-erp-fiscal'], log)
+    installed = build / 'installed'
+    run(['cmake', '--install', build, '--component', 'runtime', '--strip', '--prefix', installed], log)
+    [library] = (file for pattern in ('*.so.12.*', '*-12.dll') for file in installed.rglob(pattern))
+    return library.stat().st_size
+
+
+def pack(platform, root, log):
+    """Makes a platform's Debian packages as users get them, and tries them."""
+    folder = WORK / platform.name
+    controls = folder / 'controls'  # the packages that ours need: each tells of its libraries
+    if not controls.exists():
+        for package in sorted((folder / 'packages').glob('lib*.deb')):
+            run(['dpkg-deb', '--raw-extract', package, folder / 'controls.new' / package.stem], log)
+        (folder / 'controls.new').rename(controls)
+    libraries = sorted({str(file.parent) for file in controls.rglob('lib*.so.*')})
+    build = folder / 'package'
+    run(['cmake', '--preset', 'package', '-B', build, f'-DKIVO_SHLIBDEPS_DIRS={";".join(libraries)}',
+         *toolchain(platform, root)], log, cwd=SOURCE)
+    run(['cmake', '--build', build], log)
+    for package in build.glob('*.deb'):
+        package.unlink()
+    run(['cpack', '--config', build / 'CPackConfig.cmake', '-B', build], log, cwd=build)
+    compiler, emulator = platform.packed
+    run([SOURCE / 'tests' / 'package.sh', SOURCE, build, compiler], log,
+        env=dict(os.environ, EMULATOR=emulator))
 
 
 def go_through(platform):
@@ -234,18 +268,22 @@ def go_through(platform):
         build_dependency(platform, name, root, log)
     build = folder / 'build'
     os.environ.update(CCACHE_BASEDIR=str(SOURCE), CCACHE_NOHASHDIR='1')
-    run(['cmake', '-S', SOURCE, '-B', build, '-G', 'Ninja', '-DCMAKE_BUILD_TYPE=Debug',
+    run(['cmake', '-S', SOURCE, '-B', build, '-G', 'Ninja', f'-DCMAKE_BUILD_TYPE={platform.type}',
          '-DKIVO_BUILD_LAYOUT=ON', '-DKIVO_BUILD_TOOLS=ON', '-DKIVO_BUILD_EXAMPLES=ON',
-         '-DKIVO_BUILD_TESTS=ON', f'-DCMAKE_CXX_FLAGS_DEBUG={WARNINGS} {platform.flags}',
+         '-DKIVO_BUILD_TESTS=ON', f'-DCMAKE_CXX_FLAGS_{platform.type.upper()}={WARNINGS} {platform.flags}',
          '-DCMAKE_COMPILE_WARNING_AS_ERROR=ON', '-DCMAKE_CXX_COMPILER_LAUNCHER=ccache',
          *platform.options, *toolchain(platform, root)], log)
     run(['cmake', '--build', build], log)
     built = time.monotonic()
     passed, failed, themselves, failing = test(platform, build, log)
+    bytes_of_library = size(platform, root, log)
+    if platform.packed:
+        pack(platform, root, log)
     end = time.monotonic()
     row = {'platform': platform.name, 'what': platform.what, 'compiler': platform.compiler,
-           'passed': passed, 'failed': failed, 'skipped': {**platform.skipped, **platform.left_out},
-           'themselves': themselves, 'failing': failing, 'build': round(built - start), 'test': round(end - built)}
+           'passed': passed, 'failed': failed, 'skipped': {**ELSEWHERE, **platform.skipped, **platform.left_out},
+           'themselves': themselves, 'failing': failing, 'size': bytes_of_library,
+           'build': round(built - start), 'test': round(end - built)}
     (folder / 'row.json').write_text(json.dumps(row, indent=1))
     for name in failing:
         print(f'   failed: {name}', flush=True)
@@ -256,8 +294,8 @@ def go_through(platform):
 
 def table(rows):
     """The rows as the table of docs/platforms.md."""
-    lines = ['| platform | what | compiler | passed | failed | skipped | minutes |',
-             '| --- | --- | --- | ---: | ---: | --- | ---: |']
+    lines = ['| platform | what | compiler | passed | failed | skipped | library, KB | minutes |',
+             '| --- | --- | --- | ---: | ---: | --- | ---: | ---: |']
     for row in rows:
         reasons = {}
         for name, reason in row['skipped'].items():
@@ -267,6 +305,7 @@ def table(rows):
             skipped.append(f'{row["themselves"]} by themselves')
         lines.append(f'| {row["platform"]} | {row["what"]} | {row["compiler"]} | {row["passed"]} '
                      f'| {row["failed"]} | {"; ".join(skipped) or "nothing"} '
+                     f'| {row["size"] / 1000:.0f} '
                      f'| {(row["build"] + row["test"]) / 60:.0f} |')
     return '\n'.join(lines)
 
