@@ -203,7 +203,7 @@ def test(platform, build, log):
     with open(log, 'a', encoding='utf-8') as file:
         subprocess.run(
             ['ctest', '--test-dir', build, '--output-on-failure', '--no-tests=error',
-             '--parallel', str(os.cpu_count()), '--timeout', '1500',
+             '--parallel', str(os.cpu_count()), '--timeout', '3600',
              '--output-junit', build / 'tests.xml',
              *(['--exclude-regex', f'^({"|".join(platform.skipped)})$'] if platform.skipped else [])],
             stdout=file, stderr=subprocess.STDOUT, env=environment, check=False)
