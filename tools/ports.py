@@ -86,6 +86,7 @@ PLATFORMS = [
              flags='-O1 -g -fexperimental-library -fsanitize=address,undefined -fno-sanitize-recover=all',
              options=['-DKIVO_RANDOM_TESTS=OFF'],
              skipped={'random_tests': NO_RAPIDCHECK, 'document_round_trip_tests': NO_RAPIDCHECK,
+                      'gdb': 'the printers know what is in texts and lists of the GNU library alone',
                       'interface': 'sanitizers add names of their own'}),
     foreign('arm64', '64-bit ARM under qemu', 'aarch64-linux-gnu', 'arm64',
             packed=('aarch64-linux-gnu-g++-12', 'qemu-aarch64')),
