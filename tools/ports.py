@@ -226,7 +226,7 @@ def size(platform, root, log):
     """The bytes of the library as users get it, without what is for debuggers."""
     build = WORK / platform.name / 'release'
     run(['cmake', '-S', SOURCE, '-B', build, '-G', 'Ninja', '-DCMAKE_BUILD_TYPE=Release',
-         '-DCMAKE_CXX_COMPILER_LAUNCHER=ccache', *platform.options, *toolchain(platform, root)], log)
+         *platform.options, *toolchain(platform, root)], log)
     run(['cmake', '--build', build, '--target', 'kivo-erp-fiscal'], log)
     installed = build / 'installed'
     run(['cmake', '--install', build, '--component', 'runtime', '--strip', '--prefix', installed], log)
@@ -268,12 +268,12 @@ def go_through(platform):
     for name in platform.built:
         build_dependency(platform, name, root, log)
     build = folder / 'build'
-    os.environ.update(CCACHE_BASEDIR=str(SOURCE), CCACHE_NOHASHDIR='1')
+    os.environ.update(CMAKE_CXX_COMPILER_LAUNCHER='ccache', CCACHE_BASEDIR=str(SOURCE),
+                      CCACHE_NOHASHDIR='1')
     run(['cmake', '-S', SOURCE, '-B', build, '-G', 'Ninja', f'-DCMAKE_BUILD_TYPE={platform.type}',
          '-DKIVO_BUILD_LAYOUT=ON', '-DKIVO_BUILD_TOOLS=ON', '-DKIVO_BUILD_EXAMPLES=ON',
          '-DKIVO_BUILD_TESTS=ON', f'-DCMAKE_CXX_FLAGS_{platform.type.upper()}={WARNINGS} {platform.flags}',
-         '-DCMAKE_COMPILE_WARNING_AS_ERROR=ON', '-DCMAKE_CXX_COMPILER_LAUNCHER=ccache',
-         *platform.options, *toolchain(platform, root)], log)
+         '-DCMAKE_COMPILE_WARNING_AS_ERROR=ON', *platform.options, *toolchain(platform, root)], log)
     run(['cmake', '--build', build], log)
     built = time.monotonic()
     passed, failed, themselves, failing = test(platform, build, log)
