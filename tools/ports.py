@@ -30,9 +30,10 @@ SOURCES = {
     'pugixml': [],
     'fmtlib': ['-DFMT_TEST=OFF', '-DFMT_DOC=OFF'],
 }
-ALWAYS = ['cmake', 'ninja-build', 'ccache', 'gettext', 'pkg-config', 'python3', 'nlohmann-json3-dev']
+ALWAYS = ['cmake', 'ninja-build', 'ccache', 'gettext', 'pkg-config', 'python3', 'nlohmann-json3-dev',
+          'abigail-tools', 'gdb', 'jq', 'xz-utils', 'zbar-tools']
 NATIVE = ['libgtest-dev', 'libpugixml-dev', 'libfmt-dev', 'libutf8proc-dev', 'libzint-dev',
-          'librapidcheck-dev', 'gdb', 'jq', 'zbar-tools']
+          'librapidcheck-dev']
 NO_RAPIDCHECK = 'rapidcheck is there as a library for g++ alone'
 # in a build for users alone
 ELSEWHERE = dict.fromkeys(('contributing', 'package'), 'builds all once more; `./dev test` runs it')
@@ -77,7 +78,8 @@ PLATFORMS = [
              options=['-DCMAKE_CXX_COMPILER=clang++-19']),
     Platform('libcxx', 'amd64, libc++ 19 with its debug hardening, address and undefined-behaviour '
              'sanitizers', 'clang 19',
-             ['clang-19', 'libclang-rt-19-dev', 'googletest', 'libutf8proc-dev', 'dpkg-dev', 'gdb'],
+             ['clang-19', 'libclang-rt-19-dev', 'googletest', 'libutf8proc-dev', 'libzint-dev',
+              'dpkg-dev'],
              unpacked=['libc++-19-dev', 'libc++1-19', 'libc++abi-19-dev', 'libc++abi1-19',
                        'libunwind-19'],
              built=list(SOURCES),
