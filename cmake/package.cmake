@@ -52,9 +52,13 @@ set(CPACK_DEBIAN_SYMBOLS_PACKAGE_SECTION debug)
 set(CPACK_DEBIAN_SYMBOLS_PACKAGE_DEPENDS "${runtime_package} (= ${PROJECT_VERSION})")
 set(CPACK_DEBIAN_SYMBOLS_DESCRIPTION "debug symbols for ${runtime_package}")
 # where debuggers look for the symbols of a library, by its build identifier
+install(CODE "
+    set(readelf \"${CMAKE_READELF}\")
+    set(objcopy \"${CMAKE_OBJCOPY}\")
+" COMPONENT symbols EXCLUDE_FROM_ALL)
 install(CODE [[
     set(library "$<TARGET_FILE:kivo-erp-fiscal>")
-    execute_process(COMMAND readelf --notes "${library}" OUTPUT_VARIABLE notes
+    execute_process(COMMAND "${readelf}" --notes "${library}" OUTPUT_VARIABLE notes
         COMMAND_ERROR_IS_FATAL ANY)
     if(NOT notes MATCHES "Build ID: (..)([0-9a-f]+)")
         message(FATAL_ERROR "${library} has no build identifier")
@@ -62,7 +66,7 @@ install(CODE [[
     set(directory "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/lib/debug/.build-id/${CMAKE_MATCH_1}")
     file(MAKE_DIRECTORY "${directory}")
     set(file "${directory}/${CMAKE_MATCH_2}.debug")
-    execute_process(COMMAND objcopy --only-keep-debug --compress-debug-sections
+    execute_process(COMMAND "${objcopy}" --only-keep-debug --compress-debug-sections
             "${library}" "${file}" COMMAND_ERROR_IS_FATAL ANY)
     file(CHMOD "${file}" PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
 ]] COMPONENT symbols EXCLUDE_FROM_ALL)
@@ -84,7 +88,10 @@ With it a program reads and writes XML documents, or walks all fields.")
 set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME ${tools_package})
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${PROJECT_BINARY_DIR}/fiscal")
+set(KIVO_SHLIBDEPS_DIRS "" CACHE STRING
+    "Folders of another processor's libraries, in packages that are unpacked with their control files")
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS
+    "${PROJECT_BINARY_DIR}/fiscal" ${KIVO_SHLIBDEPS_DIRS})
 set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "${runtime_package} (>= ${PROJECT_VERSION})")
 set(CPACK_DEBIAN_TOOLS_DESCRIPTION "shows, sums, checks and converts Brazilian invoices
 nfe_summary shows NF-e and NFC-e files to a person, in Portuguese or English:
@@ -96,7 +103,7 @@ if(KIVO_BUILD_LAYOUT)
     # CMake itself strips no static library
     install(CODE "
         if(CMAKE_INSTALL_DO_STRIP)
-            execute_process(COMMAND strip --strip-debug --enable-deterministic-archives
+            execute_process(COMMAND \"${CMAKE_STRIP}\" --strip-debug --enable-deterministic-archives
                 \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/$<TARGET_FILE_NAME:kivo-erp-fiscal-layout>\"
                 COMMAND_ERROR_IS_FATAL ANY)
         endif()

@@ -125,6 +125,11 @@ run 2 'missing.xml: cannot be read: No such file or directory' "$folder/missing.
 run 2 'empty.xml: is empty' "$folder/empty.xml"
 run 2 'large.xml: larger than the limit of 1 MB' --limit 1 "$folder/large.xml"
 run 2 '-: larger than the limit of 1 MB' --limit 1 - < <(cat "$folder/large.xml")
+truncate --size 5G "$folder/huge.xml"
+run 2 'huge.xml: larger than the limit of 64 MB' "$folder/huge.xml"
+rm "$folder/huge.xml"
+run 2 'not an XML document' --limit 4095 "$folder/large.xml"
+run 2 '--limit takes a number from 1 to 4095' --limit 4096 "$folder/large.xml"
 run 2 'not an XML document' "$folder/large.xml"
 run 2 'hollow.xml: an invoice without content' "$folder/hollow.xml"
 run 2 'not an XML document' "$folder/text.xml"

@@ -2,13 +2,16 @@
 # Makes the packages of a build, unpacks them into a clean root and builds programs against it; then
 # the same over other base headers, from the library's sources within the program's build.
 # Usage: package.sh SOURCE_DIR BUILD_DIR COMPILER...
+# The build may be for another processor, whose programs are run by EMULATOR.
 set -euo pipefail
 source=$1
 build=$2
 shift 2
 compilers=("$@")
+emulator=(${EMULATOR:+"$EMULATOR"})
 
-tools=(cpack dpkg-deb dpkg-shlibdeps file gdb ninja pkg-config "${compilers[@]}")
+tools=(cpack dpkg-deb dpkg-shlibdeps file ninja pkg-config "${compilers[@]}")
+[ ${#emulator[@]} != 0 ] || tools+=(gdb)
 [[ ${compilers[*]} != *clang* ]] || tools+=(clang-tidy-14)
 for tool in "${tools[@]}"; do
     command -v "$tool" > /dev/null || {
@@ -25,6 +28,9 @@ fail() {
 # Runs a command that is quiet unless it fails.
 quietly() { "$@" > "$work/log" 2>&1 || { cat "$work/log" >&2 && fail "failed: $*"; }; }
 
+# Runs a program that was built.
+start() { "${emulator[@]}" "$@"; }
+
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 warnings="-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror"
@@ -35,10 +41,10 @@ consume() { # FOLDER COMPILER PROGRAMS CMAKE_ARGUMENT...
     local folder=$work/$1 compiler=$2 programs=$3 program
     shift 3
     quietly cmake -S "$source/tests/consumer" -B "$folder" -G Ninja "-DPROGRAMS=$programs" \
-        "-DCMAKE_CXX_COMPILER=$compiler" "$@"
+        "-DCMAKE_CXX_COMPILER=$compiler" "${toolchain[@]}" "$@"
     quietly cmake --build "$folder"
     for program in ${programs//;/ }; do
-        [ "$program" = read_xml ] || quietly "$folder/$program"
+        [ "$program" = read_xml ] || quietly start "$folder/$program"
     done
 }
 
@@ -58,11 +64,24 @@ identifier=$(readelf --notes "$library" | sed -n 's/.*Build ID: //p')
 [ -f "root/usr/lib/debug/.build-id/${identifier:0:2}/${identifier:2}.debug" ] ||
     fail "no debug symbols of $identifier"
 
-libraries=$(dirname "$work/$library")
+toolchain=()
+system=$work/root
+if [ ${#emulator[@]} != 0 ]; then
+    # the packages beside what they need
+    setting() { sed -n "s/^$1:[A-Z]*=//p" "$build/CMakeCache.txt"; }
+    system=$work/system
+    cp -a "$(setting KIVO_PORT_ROOT)" "$system"
+    for package in packages/*.deb; do
+        dpkg-deb --extract "$package" "$system"
+    done
+    toolchain=("-DCMAKE_TOOLCHAIN_FILE=$(setting CMAKE_TOOLCHAIN_FILE)" "-DKIVO_PORT_ROOT=$system")
+    export PKG_CONFIG_SYSROOT_DIR=$system PKG_CONFIG_LIBDIR=$system QEMU_LD_PREFIX=$system
+fi
+libraries=$system/$(dirname "${library#root/}")
 export PKG_CONFIG_PATH=$libraries/pkgconfig
 for compiler in "${compilers[@]}"; do
     folder="cmake ${compiler##*/}"
-    consume "$folder" "$compiler" "fill;read_xml" "-DCMAKE_PREFIX_PATH=$work/root/usr" \
+    consume "$folder" "$compiler" "fill;read_xml" "-DCMAKE_PREFIX_PATH=$system/usr" \
         "-DCMAKE_CXX_FLAGS=$warnings"
     # the flags are lists
     # shellcheck disable=SC2046,SC2086
@@ -72,19 +91,19 @@ for compiler in "${compilers[@]}"; do
     quietly "$compiler" -std=c++20 $warnings "$source/tests/consumer/read_xml.cpp" -o read_xml \
         $(pkg-config --cflags --libs kivo-erp-fiscal-layout)
     export LD_LIBRARY_PATH=$libraries
-    quietly ./fill
-    cmp <(./read_xml "$sample") <("$folder/read_xml" "$sample")
+    quietly start ./fill
+    cmp <(start ./read_xml "$sample") <(start "$folder/read_xml" "$sample")
     if [[ ${compiler##*/} = clang* ]]; then
         # shellcheck disable=SC2046
         quietly clang-tidy-14 --quiet "--config-file=$source/.clang-tidy" \
             "$source/tests/consumer/fill.cpp" -- -std=c++20 $(pkg-config --cflags kivo-erp-fiscal)
     fi
-    grep -q "<xNome>" <(./read_xml "$sample") || fail "read_xml writes no invoice"
+    grep -q "<xNome>" <(start ./read_xml "$sample") || fail "read_xml writes no invoice"
     unset LD_LIBRARY_PATH
 done
 
 # the program speaks, and what is installed beside it is for it
-summary() { LANG=pt_BR.UTF-8 LD_LIBRARY_PATH=$libraries root/usr/bin/nfe_summary "$@"; }
+summary() { LANG=pt_BR.UTF-8 LD_LIBRARY_PATH=$libraries start root/usr/bin/nfe_summary "$@"; }
 summary "$sample" | grep -qF 'Emitente        Comércio' || fail "nfe_summary shows no invoice"
 summary --help | sed -n 's/^  --\([a-z-]*\).*/\1/p' > options
 [ -s options ] || fail "nfe_summary has no options"
@@ -104,6 +123,9 @@ for file in zsh/vendor-completions/_nfe_summary fish/vendor_completions.d/nfe_su
         grep -qF "$words" "root/usr/share/$file" || fail "$file does not say '$words'"
     done
 done
+
+# what follows is the same for every processor, or not to be had for another
+[ ${#emulator[@]} = 0 ] || exit 0
 
 # GDB repeats the path of a library in the folder of the printers, and here the root is part of it
 scripts=$work/root/usr/share/gdb/auto-load

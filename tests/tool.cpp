@@ -2,6 +2,7 @@
 #include "language.hpp"
 #include "names.hpp"
 #include "text.hpp"
+#include "values.hpp"
 
 #include <layout/elements.hpp>
 #include <layout/text.hpp>
@@ -101,6 +102,37 @@ void check_names(std::index_sequence<numbers...>, const std::vector<unsigned>& w
     };
     (check(numbers, is_enumerator<static_cast<Code>(numbers)>()), ...);
     EXPECT_GT(enumerators, 1U);
+}
+
+// Catches a carry that is lost or goes the wrong way, and a sum that is larger than a number can
+// be.
+TEST(decimal_sum, is_exact) {
+    using fiscal::decimal;
+    const std::vector<std::string> largest(100, "99999999999999999");
+    const std::vector<std::string> smallest(100, "-99999999999999999");
+    const std::vector<std::pair<std::vector<std::string>, std::string>> sums = {
+        {{}, ""},
+        {{"0.30", "0.70"}, "1.00"},
+        {{"-0.5", "-0.5", "-0.125"}, "-1.125"},
+        {{"1", "-1"}, "0.00"},
+        {{"0.000000000000001", "-0.000000000000002"}, "-0.000000000000001"},
+        {{"1000000000000000", "-0.01"}, "999999999999999.99"},
+        {{"-1000000000000000", "0.01"}, "-999999999999999.99"},
+        {largest, "9999999999999999900.00"},
+        {smallest, "-9999999999999999900.00"},
+    };
+    for (const auto& [values, expected] : sums) {
+        decimal_sum all;
+        decimal_sum halves[2];
+        for (std::size_t index = 0; index < values.size(); ++index) {
+            const auto value = layout::value_from<decimal>(values[index]);
+            all.add(value);
+            halves[index % 2].add(value);
+        }
+        halves[0].add(halves[1]);
+        EXPECT_EQ(all.plain_text(), expected);
+        EXPECT_EQ(halves[0].plain_text(), expected);
+    }
 }
 
 // Catches an enumerator that a person sees as its number, and a name for no code.

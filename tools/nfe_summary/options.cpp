@@ -165,7 +165,7 @@ void take(arguments& given, std::size_t index, const char* value) {
         given.width = number("width", value, 40, 10'000);
         break;
     case id::limit:
-        given.limit = megabyte * number("limit", value, 1, 4096);
+        given.limit = megabyte * number("limit", value, 1, 4095); // what 32 bits hold
         break;
     case id::lang:
         given.language = word(option_table[index], value);

@@ -13,8 +13,8 @@ namespace layout = kivo::erp::v12::layout;
 
 namespace {
 
-constexpr std::size_t most_places = 15; // of a decimal
-constexpr std::int64_t one = 1'000'000'000'000'000;
+constexpr std::size_t most_places = 15;             // of a decimal
+constexpr std::int64_t one = 1'000'000'000'000'000; // in units of the last place
 
 /// `-1234.5` as `-1.234,50`.
 std::string in_brazilian_form(std::string_view text, std::size_t places) {
@@ -84,7 +84,10 @@ void decimal_sum::add(const fiscal::decimal& value) {
     std::int64_t fraction = 0;
     std::from_chars(digits.data(), digits.data() + digits.size(), whole);
     std::from_chars(decimals.data(), decimals.data() + decimals.size(), fraction);
-    units_ += static_cast<wide>(whole) * one + (digits.starts_with('-') ? -fraction : fraction);
+    parts_[0] += digits.starts_with('-') ? -fraction : fraction;
+    parts_[1] += whole % one;
+    parts_[2] += whole / one;
+    carry();
     empty_ = false;
 }
 
@@ -95,8 +98,20 @@ void decimal_sum::add(const optional<fiscal::decimal>& value) {
 }
 
 void decimal_sum::add(const decimal_sum& other) {
-    units_ += other.units_;
+    for (std::size_t place = 0; place < parts_.size(); ++place) {
+        parts_[place] += other.parts_[place];
+    }
+    carry();
     empty_ = empty_ && other.empty_;
+}
+
+/// Brings all parts but the highest, which alone has a sign, into their range.
+void decimal_sum::carry() {
+    for (std::size_t place = 0; place + 1 < parts_.size(); ++place) {
+        const std::int64_t over = parts_[place] / one - (parts_[place] % one < 0 ? 1 : 0);
+        parts_[place] -= over * one;
+        parts_[place + 1] += over;
+    }
 }
 
 std::string decimal_sum::text() const { return in_brazilian_form(plain_text(), 2); }
@@ -106,9 +121,18 @@ std::string decimal_sum::plain_text() const {
         return "";
     }
     constexpr std::size_t least_places = 2;
-    const wide size = units_ < 0 ? -units_ : units_;
-    std::string text = fmt::format("{}{}.{:015}", units_ < 0 ? "-" : "", size / one,
-                                   static_cast<std::int64_t>(size % one));
+    decimal_sum size = *this;
+    const bool negative = parts_.back() < 0;
+    if (negative) {
+        for (std::int64_t& part : size.parts_) {
+            part = -part;
+        }
+        size.carry();
+    }
+    const auto [decimals, whole, beyond] = size.parts_;
+    std::string text = negative ? "-" : "";
+    text += beyond == 0 ? fmt::format("{}.{:015}", whole, decimals)
+                        : fmt::format("{}{:015}.{:015}", beyond, whole, decimals);
     const std::size_t end =
         std::max(text.find_last_not_of('0') + 1, text.find('.') + 1 + least_places);
     return text.substr(0, end);

@@ -5,6 +5,7 @@
 #include <fiscal/endereco.hpp>
 #include <fiscal/types.hpp>
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -40,10 +41,10 @@ public:
     std::string plain_text() const;
 
 private:
-    __extension__ using wide = __int128;
+    void carry();
 
     bool empty_ = true;
-    wide units_ = 0; // of the smallest decimal place that a value can have
+    std::array<std::int64_t, 3> parts_ = {}; // of 15 decimal digits each, the lowest first
 };
 
 /// `12/08/2026`.

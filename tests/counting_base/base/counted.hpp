@@ -117,7 +117,8 @@ struct chars_converter<counting::counted<Tag, by_default>> {
         if (value.number() == 0) {
             return conversion_invalid;
         }
-        const std::string& text = counting::texts().at(value.number() - 1);
+        const std::string& text =
+            counting::texts().at(static_cast<std::size_t>(value.number() - 1));
         if (length < text.size()) {
             return conversion_buffer_too_small;
         }

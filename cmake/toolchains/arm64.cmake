@@ -1,0 +1,6 @@
+set(architecture arm64)
+set(processor aarch64)
+set(multiarch aarch64-linux-gnu)
+set(triplet aarch64-linux-gnu)
+set(emulator qemu-aarch64)
+include("${CMAKE_CURRENT_LIST_DIR}/debian.cmake")

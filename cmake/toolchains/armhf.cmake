@@ -1,0 +1,6 @@
+set(architecture armhf)
+set(processor armv7l)
+set(multiarch arm-linux-gnueabihf)
+set(triplet arm-linux-gnueabihf)
+set(emulator qemu-arm)
+include("${CMAKE_CURRENT_LIST_DIR}/debian.cmake")

@@ -1,0 +1,6 @@
+set(architecture i386)
+set(processor i686)
+set(multiarch i386-linux-gnu)
+set(triplet i686-linux-gnu)
+set(emulator qemu-i386)
+include("${CMAKE_CURRENT_LIST_DIR}/debian.cmake")

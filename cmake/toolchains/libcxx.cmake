@@ -1,0 +1,10 @@
+# clang over LLVM's C++ library, which is unpacked in KIVO_PORT_ROOT with what is built over it.
+set(CMAKE_TRY_COMPILE_PLATFORM_VARIABLES KIVO_PORT_ROOT)
+set(CMAKE_C_COMPILER clang-19)
+set(CMAKE_CXX_COMPILER clang++-19)
+set(llvm "${KIVO_PORT_ROOT}/usr/lib/llvm-19")
+set(CMAKE_CXX_FLAGS_INIT "-nostdinc++ -isystem ${llvm}/include/c++/v1 -D_LIBCPP_HARDENING_MODE=_LIBCPP_HARDENING_MODE_DEBUG")
+set(CMAKE_PREFIX_PATH "${KIVO_PORT_ROOT}/usr")
+set(link_libcxx "-stdlib=libc++ -L${llvm}/lib -Wl,-rpath,${llvm}/lib")
+set(CMAKE_EXE_LINKER_FLAGS_INIT "${link_libcxx}")
+set(CMAKE_SHARED_LINKER_FLAGS_INIT "${link_libcxx}")

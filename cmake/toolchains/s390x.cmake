@@ -1,0 +1,6 @@
+set(architecture s390x)
+set(processor s390x)
+set(multiarch s390x-linux-gnu)
+set(triplet s390x-linux-gnu)
+set(emulator qemu-s390x)
+include("${CMAKE_CURRENT_LIST_DIR}/debian.cmake")

@@ -1,0 +1,336 @@
+#!/usr/bin/env python3
+"""Builds and tests the project on each platform that is claimed, and tells how it went.
+
+ports.py packages [NAME...]  prints the Debian packages that the platforms need on this machine
+ports.py run [NAME...]       builds and tests the platforms, or all, in build/ports
+"""
+import dataclasses
+import hashlib
+import json
+import os
+import pathlib
+import shutil
+import subprocess
+import sys
+import time
+import xml.etree.ElementTree as xml
+
+SOURCE = pathlib.Path(__file__).resolve().parent.parent
+WORK = SOURCE / 'build' / 'ports'
+WARNINGS = '-Wall -Wextra -Wpedantic -Wconversion -Wshadow'
+
+# what the tools, tests and companion take from Debian for another processor
+DEPENDENCIES = ('libpugixml-dev libpugixml1v5 libfmt-dev libfmt9 libutf8proc-dev libutf8proc2 '
+                'libzint-dev libzint2.11 libpng16-16 zlib1g '
+                'nlohmann-json3-dev libgtest-dev librapidcheck-dev '
+                'libc6 libgcc-s1 libstdc++6').split()
+# what is built from Debian's sources, in this order, where no package fits the compiler
+SOURCES = {
+    'googletest': [],  # a package of sources on this machine
+    'pugixml': [],
+    'fmtlib': ['-DFMT_TEST=OFF', '-DFMT_DOC=OFF'],
+}
+ALWAYS = ['cmake', 'ninja-build', 'ccache', 'gettext', 'pkg-config', 'python3', 'nlohmann-json3-dev',
+          'abigail-tools', 'gdb', 'jq', 'xz-utils', 'zbar-tools']
+NATIVE = ['libgtest-dev', 'libpugixml-dev', 'libfmt-dev', 'libutf8proc-dev', 'libzint-dev',
+          'librapidcheck-dev']
+NO_RAPIDCHECK = 'rapidcheck is there as a library for g++ alone'
+# in a build for users alone
+ELSEWHERE = dict.fromkeys(('contributing', 'package'), 'builds all once more; `./dev test` runs it')
+
+
+@dataclasses.dataclass
+class Platform:
+    """One row of the table: what it takes to build and run there, and what is left out."""
+    name: str
+    what: str
+    compiler: str
+    packages: list
+    architecture: str = 'amd64'  # of the packages that are unpacked
+    toolchain: bool = True       # cmake/toolchains/NAME.cmake
+    unpacked: list = dataclasses.field(default_factory=list)
+    built: list = dataclasses.field(default_factory=list)
+    type: str = 'RelWithDebInfo'
+    flags: str = '-O1'
+    options: list = dataclasses.field(default_factory=list)
+    environment: dict = dataclasses.field(default_factory=dict)
+    skipped: dict = dataclasses.field(default_factory=dict)  # tests of ctest: the reason
+    left_out: dict = dataclasses.field(default_factory=dict)  # cases of a program: the reason
+    packed: tuple = ()  # its packages are made too: the compiler and what runs a program
+
+
+def foreign(name, what, triplet, architecture, **options):
+    skipped = {'gdb': 'the debugger runs programs of its own processor'}
+    packages = [f'g++-12-{triplet}', 'qemu-user']
+    if 'packed' in options:
+        packages += ['dpkg-dev', 'file']
+    else:
+        skipped['abi'] = 'recorded where there are packages'
+    return Platform(
+        name, what, f'g++ 12 ({triplet})', packages, architecture=architecture,
+        unpacked=DEPENDENCIES, skipped=skipped, **options)
+
+
+PLATFORMS = [
+    Platform('gcc-hardened', 'amd64, C++23, assertions of libstdc++, _FORTIFY_SOURCE=3', 'g++ 12',
+             ['g++-12', *NATIVE], toolchain=False,
+             # the tests are compiled without optimisation, which the macro warns of
+             flags='-O1 -Wno-cpp -D_GLIBCXX_ASSERTIONS -D_FORTIFY_SOURCE=3',
+             options=['-DCMAKE_CXX_COMPILER=g++-12', '-DCMAKE_CXX_STANDARD=23']),
+    Platform('clang-19', 'amd64', 'clang 19', ['clang-19', *NATIVE], toolchain=False,
+             options=['-DCMAKE_CXX_COMPILER=clang++-19']),
+    Platform('libcxx', 'amd64, libc++ 19 with its debug hardening, address and undefined-behaviour '
+             'sanitizers', 'clang 19',
+             ['clang-19', 'libclang-rt-19-dev', 'googletest', 'libutf8proc-dev', 'libzint-dev',
+              'dpkg-dev'],
+             unpacked=['libc++-19-dev', 'libc++1-19', 'libc++abi-19-dev', 'libc++abi1-19',
+                       'libunwind-19'],
+             built=list(SOURCES),
+             type='Debug',
+             # std::jthread is still an experiment there
+             flags='-O1 -g -fexperimental-library -fsanitize=address,undefined -fno-sanitize-recover=all',
+             options=['-DKIVO_RANDOM_TESTS=OFF'],
+             skipped={'random_tests': NO_RAPIDCHECK, 'document_round_trip_tests': NO_RAPIDCHECK,
+                      'gdb': 'the printers know what is in texts and lists of the GNU library alone',
+                      'interface': 'sanitizers add names of their own'}),
+    foreign('arm64', '64-bit ARM under qemu', 'aarch64-linux-gnu', 'arm64',
+            packed=('aarch64-linux-gnu-g++-12', 'qemu-aarch64')),
+    foreign('s390x', 'big-endian under qemu', 's390x-linux-gnu', 's390x'),
+    foreign('i686', '32 bits under qemu', 'i686-linux-gnu', 'i386'),
+    foreign('armhf', '32-bit ARM under qemu', 'arm-linux-gnueabihf', 'armhf'),
+]
+
+
+def run(command, log, **options):
+    """Runs a command into a log; where it fails, the log's end is shown and the run ends."""
+    with open(log, 'a', encoding='utf-8') as file:
+        file.write(f'$ {" ".join(map(str, command))}\n')
+        file.flush()
+        ended = subprocess.run([str(part) for part in command], stdout=file,
+                               stderr=subprocess.STDOUT, check=False, **options)
+    if ended.returncode != 0:
+        lines = log.read_text(encoding='utf-8', errors='replace').splitlines()
+        print('\n'.join(line[:300] for line in lines[-40:]), file=sys.stderr)
+        sys.exit(f'ports: failed, see {log}: {" ".join(map(str, command))[:200]}')
+
+
+def apt(architecture, log):
+    """An environment in which apt knows an architecture's packages and nothing of this machine's."""
+    state = WORK / 'apt' / architecture
+    for folder in ('lists/partial', 'archives/partial'):
+        (state / folder).mkdir(parents=True, exist_ok=True)
+    (state / 'status').touch()
+    targets = subprocess.run(
+        ['apt-get', 'indextargets', '--format', '$(REPO_URI) $(RELEASE) $(LABEL)',
+         'Created-By: Packages'], capture_output=True, text=True, check=True).stdout
+    places = {tuple(line.split()[:2]) for line in targets.splitlines()
+              if line.split()[2] == 'Debian'}
+    (state / 'sources.list').write_text(''.join(
+        f'deb {place} {release} main\ndeb-src {place} {release} main\n'
+        for place, release in sorted(places)))
+    settings = {'APT::Architecture': architecture, 'Dir::State': state, 'Dir::Cache': state,
+                'Dir::State::status': state / 'status', 'Dir::State::lists': state / 'lists',
+                'Dir::Etc::sourcelist': state / 'sources.list', 'Dir::Etc::sourceparts': '/dev/null',
+                'Acquire::Languages': 'none', 'APT::Sandbox::User': 'root'}
+    (state / 'apt.conf').write_text(
+        f'APT::Architectures {{ "{architecture}"; }};\n'
+        + ''.join(f'{name} "{value}";\n' for name, value in settings.items()))
+    environment = dict(os.environ, APT_CONFIG=str(state / 'apt.conf'))
+    if not any((state / 'lists').glob('*Packages*')):
+        run(['apt-get', 'update', '-qq'], log, env=environment)
+    return environment
+
+
+def unpack(platform, root, log):
+    """Unpacks a platform's packages, once for a list of them."""
+    mark = root / ('unpacked-' + hashlib.sha256(' '.join(platform.unpacked).encode()).hexdigest())
+    if mark.exists() or not platform.unpacked:
+        return
+    packages = WORK / platform.name / 'packages'
+    shutil.rmtree(packages, ignore_errors=True)
+    packages.mkdir(parents=True)
+    run(['apt-get', 'download', *platform.unpacked], log, cwd=packages,
+        env=apt(platform.architecture, log))
+    for package in sorted(packages.glob('*.deb')):
+        run(['dpkg-deb', '--extract', package, root], log)
+    mark.touch()
+
+
+def toolchain(platform, root):
+    """What tells CMake of a platform."""
+    if not platform.toolchain:
+        return []
+    return [f'-DCMAKE_TOOLCHAIN_FILE={SOURCE}/cmake/toolchains/{platform.name}.cmake',
+            f'-DKIVO_PORT_ROOT={root}']
+
+
+def build_dependency(platform, name, root, log):
+    """Builds one of SOURCES into a platform's root."""
+    mark = root / f'built-{name}'
+    if mark.exists():
+        return
+    folder = WORK / 'sources' / name
+    if name == 'googletest':
+        folder = pathlib.Path('/usr/src/googletest')
+    elif not folder.exists():
+        folder.parent.mkdir(parents=True, exist_ok=True)
+        run(['apt-get', 'source', '--download-only', name], log, cwd=folder.parent,
+            env=apt('amd64', log))
+        [description] = folder.parent.glob(f'{name}_*.dsc')
+        run(['dpkg-source', '--extract', description, folder], log)
+    build = WORK / platform.name / 'dependencies' / name
+    run(['cmake', '-S', folder, '-B', build, '-G', 'Ninja', '-DCMAKE_BUILD_TYPE=Release',
+         f'-DCMAKE_INSTALL_PREFIX={root}/usr', '-DCMAKE_INSTALL_LIBDIR=lib', *SOURCES[name],
+         *toolchain(platform, root)], log)
+    run(['cmake', '--build', build, '--target', 'install'], log)
+    mark.touch()
+
+
+def cases(file):
+    """The cases of a GoogleTest program that ran: passed, failed and skipped by themselves."""
+    passed = failed = skipped = 0
+    for case in xml.parse(file).iter('testcase'):
+        if case.find('failure') is not None:
+            failed += 1
+        elif case.get('result') in ('skipped', 'suppressed') or case.get('status') == 'notrun':
+            skipped += 1
+        else:
+            passed += 1
+    return passed, failed, skipped
+
+
+def test(platform, build, log):
+    """Runs the tests; answers how many passed, failed and skipped themselves, and what failed."""
+    results = build / 'cases'
+    shutil.rmtree(results, ignore_errors=True)
+    environment = dict(os.environ, GTEST_OUTPUT=f'xml:{results}/', **platform.environment)
+    if platform.left_out:
+        environment['GTEST_FILTER'] = '-' + ':'.join(platform.left_out)
+    with open(log, 'a', encoding='utf-8') as file:
+        subprocess.run(
+            ['ctest', '--test-dir', build, '--output-on-failure', '--no-tests=error',
+             '--parallel', str(os.cpu_count()), '--timeout', '3600',
+             '--output-junit', build / 'tests.xml',
+             *(['--exclude-regex', f'^({"|".join(platform.skipped)})$'] if platform.skipped else [])],
+            stdout=file, stderr=subprocess.STDOUT, env=environment, check=False)
+    sums = [0, 0, 0]
+    failing = []
+    for one in xml.parse(build / 'tests.xml').iter('testcase'):
+        name = one.get('name')
+        fine = one.get('status') == 'run'
+        told = results / f'{name}.xml'
+        numbers = list(cases(told)) if told.exists() else [int(fine), 0, 0]
+        if not fine:
+            failing.append(name)
+            numbers[1] = max(numbers[1], 1)  # a program may fail apart from its cases
+        sums = [sum(pair) for pair in zip(sums, numbers)]
+    return (*sums, failing)
+
+
+def size(platform, root, log):
+    """The bytes of the library as users get it, without what is for debuggers."""
+    build = WORK / platform.name / 'release'
+    run(['cmake', '-S', SOURCE, '-B', build, '-G', 'Ninja', '-DCMAKE_BUILD_TYPE=Release',
+         *platform.options, *toolchain(platform, root)], log)
+    run(['cmake', '--build', build, '--target', 'kivo-erp-fiscal'], log)
+    installed = build / 'installed'
+    run(['cmake', '--install', build, '--component', 'runtime', '--strip', '--prefix', installed], log)
+    [library] = (file for pattern in ('*.so.12.*', '*-12.dll') for file in installed.rglob(pattern))
+    return library.stat().st_size
+
+
+def pack(platform, root, log):
+    """Makes a platform's Debian packages as users get them, and tries them."""
+    folder = WORK / platform.name
+    controls = folder / 'controls'  # the packages that ours need: each tells of its libraries
+    if not controls.exists():
+        for package in sorted((folder / 'packages').glob('lib*.deb')):
+            run(['dpkg-deb', '--raw-extract', package, folder / 'controls.new' / package.stem], log)
+        (folder / 'controls.new').rename(controls)
+    libraries = sorted({str(file.parent) for file in controls.rglob('lib*.so.*')})
+    build = folder / 'package'
+    run(['cmake', '--preset', 'package', '-B', build, f'-DKIVO_SHLIBDEPS_DIRS={";".join(libraries)}',
+         *toolchain(platform, root)], log, cwd=SOURCE)
+    run(['cmake', '--build', build], log)
+    for package in build.glob('*.deb'):
+        package.unlink()
+    run(['cpack', '--config', build / 'CPackConfig.cmake', '-B', build], log, cwd=build)
+    compiler, emulator = platform.packed
+    run([SOURCE / 'tests' / 'package.sh', SOURCE, build, compiler], log,
+        env=dict(os.environ, EMULATOR=emulator))
+
+
+def go_through(platform):
+    """Builds and tests one platform; answers its row of the table."""
+    start = time.monotonic()
+    folder = WORK / platform.name
+    root = folder / 'root'
+    root.mkdir(parents=True, exist_ok=True)
+    log = folder / 'log'
+    log.unlink(missing_ok=True)
+    print(f'== {platform.name}: {platform.what}; {log}', flush=True)
+    unpack(platform, root, log)
+    for name in platform.built:
+        build_dependency(platform, name, root, log)
+    build = folder / 'build'
+    os.environ.update(CMAKE_CXX_COMPILER_LAUNCHER='ccache', CCACHE_BASEDIR=str(SOURCE),
+                      CCACHE_NOHASHDIR='1')
+    run(['cmake', '-S', SOURCE, '-B', build, '-G', 'Ninja', f'-DCMAKE_BUILD_TYPE={platform.type}',
+         '-DKIVO_BUILD_LAYOUT=ON', '-DKIVO_BUILD_TOOLS=ON', '-DKIVO_BUILD_EXAMPLES=ON',
+         '-DKIVO_BUILD_TESTS=ON', f'-DCMAKE_CXX_FLAGS_{platform.type.upper()}={WARNINGS} {platform.flags}',
+         '-DCMAKE_COMPILE_WARNING_AS_ERROR=ON', *platform.options, *toolchain(platform, root)], log)
+    run(['cmake', '--build', build], log)
+    built = time.monotonic()
+    passed, failed, themselves, failing = test(platform, build, log)
+    bytes_of_library = size(platform, root, log)
+    if platform.packed:
+        pack(platform, root, log)
+    end = time.monotonic()
+    row = {'platform': platform.name, 'what': platform.what, 'compiler': platform.compiler,
+           'passed': passed, 'failed': failed, 'skipped': {**ELSEWHERE, **platform.skipped, **platform.left_out},
+           'themselves': themselves, 'failing': failing, 'size': bytes_of_library,
+           'build': round(built - start), 'test': round(end - built)}
+    (folder / 'row.json').write_text(json.dumps(row, indent=1))
+    for name in failing:
+        print(f'   failed: {name}', flush=True)
+    print(f'   {passed} passed, {failed} failed, {row["build"]} s to build, {row["test"]} s to test',
+          flush=True)
+    return row
+
+
+def table(rows):
+    """The rows as the table of docs/platforms.md."""
+    lines = ['| platform | what | compiler | passed | failed | skipped | library, KB | minutes |',
+             '| --- | --- | --- | ---: | ---: | --- | ---: | ---: |']
+    for row in rows:
+        reasons = {}
+        for name, reason in row['skipped'].items():
+            reasons.setdefault(reason, []).append(f'`{name}`')
+        skipped = [f'{", ".join(names)}: {reason}' for reason, names in reasons.items()]
+        if row['themselves']:
+            skipped.append(f'{row["themselves"]} by themselves')
+        lines.append(f'| {row["platform"]} | {row["what"]} | {row["compiler"]} | {row["passed"]} '
+                     f'| {row["failed"]} | {"; ".join(skipped) or "nothing"} '
+                     f'| {row["size"] / 1000:.0f} '
+                     f'| {(row["build"] + row["test"]) / 60:.0f} |')
+    return '\n'.join(lines)
+
+
+def main():
+    command, *names = sys.argv[1:] or ['']
+    known = {platform.name: platform for platform in PLATFORMS}
+    unknown = [name for name in names if name not in known]
+    if command not in ('packages', 'run') or unknown:
+        sys.exit(f'ports: no {" ".join(unknown) or command or "command"}; '
+                 f'platforms are {" ".join(known)}')
+    chosen = [known[name] for name in names] or PLATFORMS
+    if command == 'packages':
+        print(*sorted({*ALWAYS, *(package for platform in chosen for package in platform.packages)}))
+        return
+    rows = [go_through(platform) for platform in chosen]
+    print(table(rows))
+    sys.exit(any(row['failed'] or row['failing'] for row in rows))
+
+
+if __name__ == '__main__':
+    main()
