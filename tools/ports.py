@@ -61,11 +61,13 @@ class Platform:
 
 def foreign(name, what, triplet, architecture, **options):
     skipped = {'gdb': 'the debugger runs programs of its own processor'}
-    if 'packed' not in options:
+    packages = [f'g++-12-{triplet}', 'qemu-user']
+    if 'packed' in options:
+        packages += ['dpkg-dev', 'file']
+    else:
         skipped['abi'] = 'recorded where there are packages'
     return Platform(
-        name, what, f'g++ 12 ({triplet})', [f'g++-12-{triplet}', 'qemu-user'],
-        architecture=architecture, unpacked=DEPENDENCIES, skipped=skipped, **options)
+        name, what, f'g++ 12 ({triplet})', packages, architecture=architecture, unpacked=DEPENDENCIES, skipped=skipped, **options)
 
 
 PLATFORMS = [
