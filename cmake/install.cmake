@@ -13,13 +13,17 @@ file(RELATIVE_PATH include_from_pkgconfig
 
 install(TARGETS kivo-erp-fiscal
     EXPORT kivo-erp-fiscal
+    RUNTIME COMPONENT runtime
     LIBRARY COMPONENT runtime NAMELINK_COMPONENT development
+    ARCHIVE COMPONENT development
     FILE_SET HEADERS DESTINATION "${include_dir}" COMPONENT development)
-# GDB loads the printers with the library: it repeats the library's path in a folder of its own
-install(FILES fiscal/gdb/printers.py
-    DESTINATION "${CMAKE_INSTALL_DATADIR}/gdb/auto-load\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}"
-    RENAME "$<TARGET_FILE_NAME:kivo-erp-fiscal>-gdb.py"
-    COMPONENT runtime)
+if(NOT WIN32)
+    # GDB loads the printers with the library: it repeats the library's path in a folder of its own
+    install(FILES fiscal/gdb/printers.py
+        DESTINATION "${CMAKE_INSTALL_DATADIR}/gdb/auto-load\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}"
+        RENAME "$<TARGET_FILE_NAME:kivo-erp-fiscal>-gdb.py"
+        COMPONENT runtime)
+endif()
 # a user compiles over the base headers that the library was compiled over
 set(base_include_dir "${PROJECT_SOURCE_DIR}")
 if(KIVO_BASE_INCLUDE_DIR)
@@ -73,6 +77,9 @@ if(KIVO_BUILD_TOOLS)
     set(tool_files "${PROJECT_BINARY_DIR}/tools/nfe_summary")
     install(DIRECTORY "${tool_files}/locale"
         DESTINATION "${CMAKE_INSTALL_DATADIR}" COMPONENT tools)
+endif()
+
+if(KIVO_BUILD_TOOLS AND NOT WIN32)
     foreach(file
             manual.en.gz:man/man1/nfe_summary.1.gz
             manual.pt_BR.gz:man/pt_BR/man1/nfe_summary.1.gz

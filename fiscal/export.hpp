@@ -6,4 +6,12 @@
 #endif
 
 /// Marks what the shared library exports; everything else in it is hidden.
+#if !defined(_WIN32)
 #define KIVO_ERP_FISCAL_EXPORT __attribute__((visibility("default")))
+#elif defined(KIVO_ERP_FISCAL_BUILDS) // the library itself
+#define KIVO_ERP_FISCAL_EXPORT __declspec(dllexport)
+#elif defined(KIVO_ERP_FISCAL_STATIC) // its sources, as a part of a program
+#define KIVO_ERP_FISCAL_EXPORT
+#else
+#define KIVO_ERP_FISCAL_EXPORT __declspec(dllimport)
+#endif

@@ -2,23 +2,17 @@
 
 #include "language.hpp"
 #include "page.hpp"
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include "platform.hpp"
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
+#include <cstdio>
 #include <filesystem>
 #include <stdexcept>
 
 namespace nfe_summary {
 
-std::string system_reason(int error) {
-    const char* const known = strerrordesc_np(error);
-    return translated(known == nullptr ? std::to_string(error) : known);
-}
+std::string system_reason(int error) { return translated(platform::meaning_of(error)); }
 
 namespace {
 
@@ -29,49 +23,38 @@ namespace {
 class open_file {
 public:
     explicit open_file(const std::string& path)
-        : number_(path == standard_input ? STDIN_FILENO : open(path.c_str(), O_RDONLY | O_CLOEXEC)),
-          owned_(path != standard_input) {
-        if (number_ < 0) {
+        : stream_(path == standard_input ? stdin : std::fopen(path.c_str(), "rb")) {
+        if (stream_ == nullptr) {
             fail(errno);
         }
     }
     ~open_file() {
-        if (owned_) {
-            close(number_);
+        if (stream_ != stdin) {
+            std::fclose(stream_);
         }
     }
     open_file(const open_file&) = delete;
     open_file& operator=(const open_file&) = delete;
 
-    /// How many bytes it seems to have; 0 where that is not known.
-    std::size_t size() const {
-        struct stat found = {};
-        if (fstat(number_, &found) != 0) {
-            fail(errno);
-        }
-        return S_ISREG(found.st_mode) ? static_cast<std::size_t>(found.st_size) : 0;
-    }
-
     /// Fills a buffer as far as there is something.
     std::size_t read(char* buffer, std::size_t room) const {
-        std::size_t total = 0;
-        while (total < room) {
-            const ssize_t count = ::read(number_, buffer + total, room - total);
-            if (count < 0 && errno != EINTR) {
-                fail(errno);
-            }
-            if (count == 0) {
-                break;
-            }
-            total += count < 0 ? 0 : static_cast<std::size_t>(count);
+        const std::size_t count = std::fread(buffer, 1, room, stream_);
+        if (std::ferror(stream_) != 0) {
+            fail(errno);
         }
-        return total;
+        return count;
     }
 
 private:
-    int number_;
-    bool owned_;
+    std::FILE* stream_;
 };
+
+/// How many bytes a file seems to have; 0 where that is not known.
+std::size_t size_of(const std::string& path) {
+    std::error_code unknown;
+    const auto size = std::filesystem::file_size(path, unknown);
+    return unknown || path == standard_input ? 0 : static_cast<std::size_t>(size);
+}
 
 } // namespace
 
@@ -80,8 +63,11 @@ std::string content_of(const std::string& path, std::size_t limit) {
         throw std::runtime_error(
             say("larger than the limit of {} MB; --limit raises it", limit / megabyte));
     };
+    if (is_folder(path)) {
+        fail(EISDIR);
+    }
     const open_file file(path);
-    const std::size_t expected = file.size();
+    const std::size_t expected = size_of(path);
     if (expected > limit) {
         refuse_size();
     }
@@ -123,12 +109,12 @@ bool add_files(const std::filesystem::path& folder, std::vector<std::string>& pa
         std::error_code ignored; // what is not there any more is neither
         if (entry->is_directory(ignored) && !entry->is_symlink(ignored)) {
             folders.push_back(entry->path());
-        } else if (is_xml_name(entry->path().native()) && entry->is_regular_file(ignored)) {
-            paths.push_back(entry->path().native());
+        } else if (is_xml_name(entry->path().string()) && entry->is_regular_file(ignored)) {
+            paths.push_back(entry->path().string());
         }
     }
     if (error) {
-        complain(folder.native(), say("cannot be read: {}", system_reason(error.value())));
+        complain(folder.string(), say("cannot be read: {}", system_reason(error.value())));
     }
     for (const std::filesystem::path& inner : folders) { // one folder is open at a time
         complete = add_files(inner, paths) && complete;

@@ -1,10 +1,11 @@
 #include "language.hpp"
 
+#include "platform.hpp"
+
 #include <fmt/args.h>
 #include <libintl.h>
 
 #include <array>
-#include <clocale>
 #include <cstdlib>
 #include <filesystem>
 #include <optional>
@@ -39,14 +40,13 @@ std::string language_of_environment() {
         }
         list.erase(0, first.size() + 1);
     }
-    return locale;
+    return locale.empty() ? platform::language_of_settings() : locale;
 }
 
 /// Where the translations stand, beside the program wherever that is.
 std::string translations() {
     std::error_code error;
-    const std::filesystem::path folder =
-        std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
+    const std::filesystem::path folder = platform::program().parent_path();
     const std::filesystem::path installed = folder.parent_path() / "share" / "locale";
     return (std::filesystem::exists(installed / "pt_BR" / "LC_MESSAGES" / "nfe_summary.mo", error)
                 ? installed
@@ -58,13 +58,7 @@ std::string translations() {
 
 void choose_language(const std::string& language) {
     const std::string chosen = language.empty() ? language_of_environment() : language;
-    if (chosen.starts_with("pt")) {
-        // with any locale but C, gettext takes the language from this variable
-        std::setlocale(LC_MESSAGES, "C.UTF-8");
-        setenv("LANGUAGE", "pt_BR", 1);
-    } else {
-        std::setlocale(LC_MESSAGES, "C");
-    }
+    platform::translate_into(chosen.starts_with("pt") ? "pt_BR" : "en");
     bindtextdomain(domain, translations().c_str());
     bind_textdomain_codeset(domain, "UTF-8");
     textdomain(domain);

@@ -9,6 +9,7 @@
 #include "language.hpp"
 #include "options.hpp"
 #include "overview.hpp"
+#include "platform.hpp"
 #include "reading.hpp"
 #include "show.hpp"
 #include "source.hpp"
@@ -284,6 +285,7 @@ int run(const arguments& given) {
 }
 
 int parse_and_run(int argc, char** argv) {
+    platform::prepare_streams();
     choose_language("");
     try {
         return run(read_arguments(argc, argv));

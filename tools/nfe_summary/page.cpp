@@ -1,15 +1,14 @@
 #include "page.hpp"
 
 #include "language.hpp"
+#include "platform.hpp"
 
 #include <fmt/color.h>
 #include <fmt/format.h>
 
-#include <sys/ioctl.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <cstdlib>
+#include <optional>
 
 namespace nfe_summary {
 
@@ -30,12 +29,8 @@ void complain(std::string_view message) {
 }
 
 page page::of_terminal() {
-    winsize size = {};
-    if (isatty(STDOUT_FILENO) == 0) {
-        return {};
-    }
-    const bool known = ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col != 0;
-    return page{.bold = std::getenv("NO_COLOR") == nullptr}.as_wide_as(known ? size.ws_col : 80);
+    const std::optional<std::size_t> columns = platform::terminal_columns();
+    return columns ? page{.bold = std::getenv("NO_COLOR") == nullptr}.as_wide_as(*columns) : page();
 }
 
 page page::as_wide_as(std::size_t columns) const {

@@ -1,15 +1,14 @@
 #include "progress.hpp"
 
 #include "language.hpp"
+#include "platform.hpp"
 
 #include <fmt/format.h>
-
-#include <unistd.h>
 
 namespace nfe_summary {
 
 progress::progress(std::size_t total)
-    : total_(total), shown_(isatty(STDERR_FILENO) != 0 && total > 1) {}
+    : total_(total), shown_(platform::is_terminal(stderr) && total > 1) {}
 
 progress::~progress() {
     if (shown_) {
