@@ -298,9 +298,12 @@ def pack(platform, root, log):
     folder = WORK / platform.name
     controls = folder / 'controls'  # the packages that ours need: each tells of its libraries
     if not controls.exists():
+        fresh = folder / 'controls.new'
+        shutil.rmtree(fresh, ignore_errors=True)
+        fresh.mkdir()
         for package in sorted((folder / 'packages').glob('lib*.deb')):
-            run(['dpkg-deb', '--raw-extract', package, folder / 'controls.new' / package.stem], log)
-        (folder / 'controls.new').rename(controls)
+            run(['dpkg-deb', '--raw-extract', package, fresh / package.stem], log)
+        fresh.rename(controls)
     libraries = sorted({str(file.parent) for file in controls.rglob('lib*.so.*')})
     build = folder / 'package'
     run(['cmake', '--preset', 'package', '-B', build, f'-DKIVO_SHLIBDEPS_DIRS={";".join(libraries)}',
