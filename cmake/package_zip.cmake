@@ -21,6 +21,9 @@ foreach(dll IN LISTS dlls)
             "-print-file-name=${dll}.dll"
         OUTPUT_VARIABLE file OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
     install(FILES "${file}" DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT runtime)
+    install(CODE "execute_process(COMMAND \"${CMAKE_STRIP}\"
+        \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_BINDIR}/${dll}.dll\"
+        COMMAND_ERROR_IS_FATAL ANY)" COMPONENT runtime)
 endforeach()
 
 file(GLOB licences "${KIVO_PORT_ROOT}/usr/share/doc/*/copyright"
