@@ -35,4 +35,7 @@ foreach(licence IN LISTS licences)
     install(FILES "${licence}" DESTINATION "${CMAKE_INSTALL_DATADIR}/licences" RENAME "${package}.txt"
         COMPONENT runtime)
 endforeach()
+# to which some of them refer
+install(FILES /usr/share/common-licenses/GPL-3 /usr/share/common-licenses/LGPL-2.1
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/licences" COMPONENT runtime)
 include(CPack)

@@ -214,9 +214,9 @@ def build_commands(platform, name, source, build, root):
         triplet = 'x86_64-w64-mingw32'
         # the sources are as they were published: nothing of their build is made anew
         as_published = [f'{tool}=:' for tool in ('ACLOCAL', 'AUTOCONF', 'AUTOHEADER', 'AUTOMAKE')]
-        return [[source / 'gettext-runtime' / 'configure', f'--host={triplet}', f'--prefix={root}/usr',
+        return [[source / 'gettext-runtime' / 'configure', f'--host={triplet}', '--prefix=/usr',
                  f'CC={triplet}-gcc-posix', f'CXX={triplet}-g++-posix', *SOURCES[name]],
-                ['make', '-C', 'intl', 'install', *as_published]]
+                ['make', '-C', 'intl', 'install', f'DESTDIR={root}', *as_published]]
     return [['cmake', '-S', source, '-B', build, '-G', 'Ninja', '-DCMAKE_BUILD_TYPE=Release',
              f'-DCMAKE_INSTALL_PREFIX={root}/usr', '-DCMAKE_INSTALL_LIBDIR=lib', *SOURCES[name],
              *toolchain(platform, root)],
