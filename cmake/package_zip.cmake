@@ -21,6 +21,9 @@ foreach(dll IN LISTS dlls)
             "-print-file-name=${dll}.dll"
         OUTPUT_VARIABLE file OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
     install(FILES "${file}" DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT runtime)
+    install(CODE "execute_process(COMMAND \"${CMAKE_STRIP}\"
+        \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_BINDIR}/${dll}.dll\"
+        COMMAND_ERROR_IS_FATAL ANY)" COMPONENT runtime)
 endforeach()
 
 file(GLOB licences "${KIVO_PORT_ROOT}/usr/share/doc/*/copyright"
@@ -32,4 +35,7 @@ foreach(licence IN LISTS licences)
     install(FILES "${licence}" DESTINATION "${CMAKE_INSTALL_DATADIR}/licences" RENAME "${package}.txt"
         COMPONENT runtime)
 endforeach()
+# to which some of them refer
+install(FILES /usr/share/common-licenses/GPL-3 /usr/share/common-licenses/LGPL-2.1
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/licences" COMPONENT runtime)
 include(CPack)

@@ -4,7 +4,7 @@
 set -euo pipefail
 folder=$(mktemp -d)
 trap 'rm -r "$folder"' EXIT
-"$1" > "$folder/out"
+"$1" | tr -d '\r' > "$folder/out" # lines end as the system's do
 
 # the copy is another invoice, and the first is as it was filled
 diff - <(head -5 "$folder/out") <<'TEXT'

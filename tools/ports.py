@@ -63,7 +63,7 @@ class Platform:
     environment: dict = dataclasses.field(default_factory=dict)
     skipped: dict = dataclasses.field(default_factory=dict)  # tests of ctest: the reason
     left_out: dict = dataclasses.field(default_factory=dict)  # cases of a program: the reason
-    packed: tuple = ()  # its packages are made too: the compiler and what runs a program
+    packed: tuple = ()  # its packages are made too: `zip`, or the compiler and what runs a program
 
 
 def foreign(name, what, triplet, architecture, **options):
@@ -113,7 +113,9 @@ PLATFORMS = [
              skipped={'random_tests': NO_RAPIDCHECK, 'document_round_trip_tests': NO_RAPIDCHECK,
                       'companion_failure_tests': OWN_ALLOCATOR, 'companion_throw_tests': NO_FORK,
                       'throwing_base_tests': NO_FORK,
-                      'gdb': 'the debugger runs programs of its own system'},
+                      'gdb': 'the debugger runs programs of its own system',
+                      'nfe_summary': 'its pipes and devices are those of Linux'},
+             packed=('zip',),
              left_out={'*/every_failure/*': OWN_ALLOCATOR, 'allocations.*': OWN_ALLOCATOR,
                        'invoice_life.*': OWN_ALLOCATOR,
                        'choices.of_the_product_fail_by_their_kind': OWN_ALLOCATOR,
@@ -213,9 +215,9 @@ def build_commands(platform, name, source, build, root):
         triplet = 'x86_64-w64-mingw32'
         # the sources are as they were published: nothing of their build is made anew
         as_published = [f'{tool}=:' for tool in ('ACLOCAL', 'AUTOCONF', 'AUTOHEADER', 'AUTOMAKE')]
-        return [[source / 'gettext-runtime' / 'configure', f'--host={triplet}', f'--prefix={root}/usr',
+        return [[source / 'gettext-runtime' / 'configure', f'--host={triplet}', '--prefix=/usr',
                  f'CC={triplet}-gcc-posix', f'CXX={triplet}-g++-posix', *SOURCES[name]],
-                ['make', '-C', 'intl', 'install', *as_published]]
+                ['make', '-C', 'intl', 'install', f'DESTDIR={root}', *as_published]]
     return [['cmake', '-S', source, '-B', build, '-G', 'Ninja', '-DCMAKE_BUILD_TYPE=Release',
              f'-DCMAKE_INSTALL_PREFIX={root}/usr', '-DCMAKE_INSTALL_LIBDIR=lib', *SOURCES[name],
              *toolchain(platform, root)],
@@ -293,8 +295,20 @@ def size(platform, root, log):
     return library.stat().st_size
 
 
+def pack_zip(platform, root, log):
+    """Makes the zip as users get it, and tries it."""
+    build = WORK / platform.name / 'package'
+    run(['cmake', '-S', SOURCE, '-B', build, '-G', 'Ninja', '-DCMAKE_BUILD_TYPE=Release',
+         '-DKIVO_BUILD_LAYOUT=ON', '-DKIVO_BUILD_TOOLS=ON', *toolchain(platform, root)], log)
+    run(['cmake', '--build', build], log)
+    run([SOURCE / 'tests' / 'zip.sh', SOURCE, build, root], log)
+
+
 def pack(platform, root, log):
-    """Makes a platform's Debian packages as users get them, and tries them."""
+    """Makes a platform's packages as users get them, and tries them."""
+    if platform.packed == ('zip',):
+        pack_zip(platform, root, log)
+        return
     folder = WORK / platform.name
     controls = folder / 'controls'  # the packages that ours need: each tells of its libraries
     if not controls.exists():

@@ -7,10 +7,18 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
-#include <filesystem>
 #include <stdexcept>
 
 namespace nfe_summary {
+
+std::filesystem::path path_of(const std::string& name) {
+    return std::u8string(name.begin(), name.end());
+}
+
+std::string file_name_of(const std::filesystem::path& path) {
+    const std::u8string name = path.u8string();
+    return {name.begin(), name.end()};
+}
 
 std::string system_reason(int error) { return translated(platform::meaning_of(error)); }
 
@@ -52,7 +60,7 @@ private:
 /// How many bytes a file seems to have; 0 where that is not known.
 std::size_t size_of(const std::string& path) {
     std::error_code unknown;
-    const auto size = std::filesystem::file_size(path, unknown);
+    const auto size = std::filesystem::file_size(path_of(path), unknown);
     return unknown || path == standard_input ? 0 : static_cast<std::size_t>(size);
 }
 
@@ -90,7 +98,7 @@ std::string content_of(const std::string& path, std::size_t limit) {
 
 bool is_folder(const std::string& path) {
     std::error_code ignored;
-    return path != standard_input && std::filesystem::is_directory(path, ignored);
+    return path != standard_input && std::filesystem::is_directory(path_of(path), ignored);
 }
 
 namespace {
@@ -109,12 +117,12 @@ bool add_files(const std::filesystem::path& folder, std::vector<std::string>& pa
         std::error_code ignored; // what is not there any more is neither
         if (entry->is_directory(ignored) && !entry->is_symlink(ignored)) {
             folders.push_back(entry->path());
-        } else if (is_xml_name(entry->path().string()) && entry->is_regular_file(ignored)) {
-            paths.push_back(entry->path().string());
+        } else if (is_xml_name(file_name_of(entry->path())) && entry->is_regular_file(ignored)) {
+            paths.push_back(file_name_of(entry->path()));
         }
     }
     if (error) {
-        complain(folder.string(), say("cannot be read: {}", system_reason(error.value())));
+        complain(file_name_of(folder), say("cannot be read: {}", system_reason(error.value())));
     }
     for (const std::filesystem::path& inner : folders) { // one folder is open at a time
         complete = add_files(inner, paths) && complete;
@@ -132,7 +140,7 @@ file_list files_of(const std::vector<std::string>& arguments) {
             continue;
         }
         std::vector<std::string> below;
-        files.complete = add_files(argument, below) && files.complete;
+        files.complete = add_files(path_of(argument), below) && files.complete;
         std::sort(below.begin(), below.end());
         files.paths.insert(files.paths.end(), below.begin(), below.end());
     }

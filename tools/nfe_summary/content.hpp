@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -11,6 +12,10 @@ namespace nfe_summary {
 inline constexpr const char* standard_input = "-";
 
 inline constexpr std::size_t megabyte = 1'048'576; ///< in bytes
+
+/// A name as the system takes it, and as a text: always UTF-8, which not every system's names are.
+std::filesystem::path path_of(const std::string& name);
+std::string file_name_of(const std::filesystem::path& path);
 
 /// What the system says of an error, in the chosen language.
 std::string system_reason(int error);

@@ -1,5 +1,6 @@
 #include "language.hpp"
 
+#include "content.hpp"
 #include "platform.hpp"
 
 #include <fmt/args.h>
@@ -48,10 +49,9 @@ std::string translations() {
     std::error_code error;
     const std::filesystem::path folder = platform::program().parent_path();
     const std::filesystem::path installed = folder.parent_path() / "share" / "locale";
-    return (std::filesystem::exists(installed / "pt_BR" / "LC_MESSAGES" / "nfe_summary.mo", error)
-                ? installed
-                : folder / "locale")
-        .string();
+    const bool found =
+        std::filesystem::exists(installed / "pt_BR" / "LC_MESSAGES" / "nfe_summary.mo", error);
+    return file_name_of(found ? installed : folder / "locale");
 }
 
 } // namespace
