@@ -3,19 +3,9 @@
 # no legal force, can be scanned, and load or run nothing, whatever stands in the invoice.
 # Usage: nfe_page.sh PROGRAM DATA_FOLDER
 set -euo pipefail
-export LC_ALL=C.UTF-8
-unset LANGUAGE
-program=$1
-data=$2
+# shellcheck source=tests/support/tool_test.sh
+. "$(dirname "$0")/support/tool_test.sh"
 look=$(dirname "$0")/nfe_page.py
-folder=$(mktemp -d)
-trap 'rm -r "$folder"' EXIT
-failed=0
-
-fault() {
-    echo "$*" >&2
-    failed=1
-}
 
 # page ARGUMENT...: makes a page and its texts
 page() {

@@ -2,18 +2,8 @@
 # Checks how nfe_summary ends and what it says, for good, bad and hostile files.
 # Usage: nfe_summary.sh PROGRAM DATA_FOLDER
 set -euo pipefail
-export LC_ALL=C.UTF-8
-unset LANGUAGE
-program=$1
-data=$2
-folder=$(mktemp -d)
-trap 'chmod -R u+rwx "$folder"; rm -r "$folder"' EXIT
-failed=0
-
-fault() {
-    echo "$*" >&2
-    failed=1
-}
+# shellcheck source=tests/support/tool_test.sh
+. "$(dirname "$0")/support/tool_test.sh"
 
 # run STATUS PATTERN ARGUMENT...: the status it has to end with, and what has to stand in one line
 # on stderr, or in stdout where stderr is to be empty; no pattern for both to be empty

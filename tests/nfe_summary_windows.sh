@@ -2,17 +2,8 @@
 # Checks what is the system's in nfe_summary on Windows: names, wildcards, bytes, languages and the
 # console. Usage: nfe_summary_windows.sh PROGRAM DATA_FOLDER
 set -euo pipefail
-export LC_ALL=C.UTF-8
-program=$1
-data=$2
-folder=$(mktemp -d)
-trap 'rm -r "$folder"' EXIT
-failed=0
-
-fault() {
-    echo "$*" >&2
-    failed=1
-}
+# shellcheck source=tests/support/tool_test.sh
+. "$(dirname "$0")/support/tool_test.sh"
 
 # run STATUS PATTERN ARGUMENT...: the status it has to end with, and what has to stand in a line
 run() {

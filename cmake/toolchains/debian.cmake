@@ -1,7 +1,6 @@
 # A Debian of another processor: its cross compiler, and its packages unpacked in KIVO_PORT_ROOT.
 # What includes this has set Debian's names of the architecture and of its folders, and the triplet
 # of its tools.
-set(CMAKE_TRY_COMPILE_PLATFORM_VARIABLES KIVO_PORT_ROOT)
 set(CMAKE_SYSTEM_NAME Linux)
 set(CMAKE_SYSTEM_PROCESSOR ${processor})
 set(CMAKE_C_COMPILER ${triplet}-gcc-12)
@@ -14,10 +13,7 @@ foreach(kind EXE SHARED)
 endforeach()
 set(CMAKE_CROSSCOMPILING_EMULATOR "${emulator};-L;${KIVO_PORT_ROOT}")
 set(CMAKE_FIND_ROOT_PATH "${KIVO_PORT_ROOT}")
-set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
-set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
-set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
-set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
+include("${CMAKE_CURRENT_LIST_DIR}/port_root.cmake")
 set(ENV{PKG_CONFIG_SYSROOT_DIR} "${KIVO_PORT_ROOT}")
 set(ENV{PKG_CONFIG_LIBDIR} "${KIVO_PORT_ROOT}/usr/lib/${multiarch}/pkgconfig")
 set(CPACK_DEBIAN_PACKAGE_ARCHITECTURE ${architecture})

@@ -33,7 +33,8 @@ public:
     explicit open_file(const std::string& path)
         : stream_(path == standard_input ? stdin : std::fopen(path.c_str(), "rb")) {
         if (stream_ == nullptr) {
-            fail(errno);
+            const int error = errno;
+            fail(is_folder(path) ? EISDIR : error); // Windows has another word for it
         }
     }
     ~open_file() {
@@ -71,9 +72,6 @@ std::string content_of(const std::string& path, std::size_t limit) {
         throw std::runtime_error(
             say("larger than the limit of {} MB; --limit raises it", limit / megabyte));
     };
-    if (is_folder(path)) {
-        fail(EISDIR);
-    }
     const open_file file(path);
     const std::size_t expected = size_of(path);
     if (expected > limit) {
