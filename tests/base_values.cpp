@@ -123,6 +123,13 @@ TEST(base_values, decimal) {
     EXPECT_EQ(text_of(value_of<decimal>("007.50")), "7.50") << "leading zeros say nothing";
     EXPECT_EQ(text_of(value_of<decimal>("0000000000000000000000000001")), "1");
     EXPECT_EQ(text_of(value_of<decimal>("-0.00")), "0.00");
+    using to_decimal = core::v7::value_converter<decimal>;
+    for (const char* const text : {"0", "7", "0.50", "1234.56"}) {
+        EXPECT_TRUE(to_decimal::gives_back(text)) << text << " is written as it was read";
+    }
+    for (const char* const text : {"00", "007.50", "0000000000000000000000000001", "-0.00"}) {
+        EXPECT_FALSE(to_decimal::gives_back(text)) << text << " is written otherwise";
+    }
 }
 
 // Catches a comparison of scales, and one that overflows while it makes them alike.

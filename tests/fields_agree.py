@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Compares three accounts of every field: the layout map, the comments of the headers, and the
-layout's own list of elements.
+"""Compares three accounts of every field: the layout map, the headers' comments and codes, and
+the layout's own list of elements.
 
 fields_agree.py FACTS [ROOT]    the folder of facts, and the tree whose headers are read
 
@@ -157,6 +157,29 @@ def default_faults(place, root):
         yield f"{place.path}: {place.owner}::{place.getter} is written before it is set"
 
 
+def code_faults(places, elements, root):
+    """An enumeration has each code of its elements, once, and no other than its comments tell: a 0
+    that is no code, and codes of a later schema."""
+    for header in sorted(root.glob("fiscal/*.hpp")):
+        for kind, body in re.findall(r"enum class (\w+) : std::uint\d+_t \{(.*?)\};",
+                                     header.read_text(), re.S):
+            name = f"{header.stem}::{kind}"
+            told = [(int(value, 0), meaning) for value, meaning in
+                    re.findall(r" = (\w+),(?:\s*///< (.*))?", body)]
+            unset = [value for value, meaning in told if meaning.startswith("never set; not a code")]
+            later = {value for value, meaning in told if "; schema of " in meaning}
+            codes = {value for value, _ in told} - set(unset)
+            if len(codes) + len(unset) < len(told) or any(unset):
+                yield f"{name}: a code stands twice, or what is no code is not 0"
+            expected = {int(code, place.base or 10) for place in places
+                        if place.value == "number" and place.kind != "without element"
+                        and place.type == kind and header.stem in (kind, place.owner)
+                        for code in re.split(", | or ", elements[place.path].demanded)
+                        if code.isalnum()}
+            if expected and codes - later != expected:
+                yield f"{name}: not as in the layout: {sorted(expected ^ (codes - later))}"
+
+
 def order_faults(places, elements):
     """The map has the layout's order. Alternatives have that of their indices, attributes any."""
     order = {path: number for number, path in enumerate(elements)}
@@ -200,6 +223,7 @@ def faults(folder, root):
         if place.kind != "without element":
             yield from layout_faults(place, elements)
             yield from default_faults(place, root)
+    yield from code_faults(places, elements, root)
     yield from order_faults(places, elements)
 
 

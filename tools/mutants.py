@@ -21,7 +21,7 @@ import subprocess
 import sys
 import time
 
-from companion_faults import WHOLE, CompanionBuild, CompanionWorker, companion_mutants
+from companion_faults import FACTS, WHOLE, CompanionBuild, CompanionWorker, companion_mutants
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 LIBRARY = "kivo-erp-fiscal"
@@ -407,6 +407,11 @@ class Worker:
             if not self.run(tests / "abi/abi.sh", "compare",
                             self.folder / "libkivo-erp-fiscal.so.12"):
                 return "abi"
+            shutil.copytree(ROOT / "fiscal", self.folder / "headers/fiscal")
+            shutil.copy(self.overlay / path, self.folder / "headers/fiscal")
+            if not self.run(sys.executable, tests / FACTS, self.build.folder / "facts",
+                            self.folder / "headers"):
+                return FACTS
         programs = self.build.folder / "tests"
         # what is most likely to find it comes first
         for program, only in [("value_tests", f"{subsystem}/*/{place}.*"), ("value_tests", "*"),

@@ -52,7 +52,7 @@ template <> inline erp::v12::cpf base_sample(std::size_t number) {
 }
 
 template <class Value> std::string base_text(const Value& value) {
-    char chars[32];
+    char chars[32] = {};
     std::size_t length = sizeof chars;
     if (core::v7::chars_converter<Value>::make_chars(chars, length, value) !=
         core::v7::conversion_success) {

@@ -59,7 +59,7 @@ void fail_each(promise promised, Prepare prepare, Operation operation, Check che
     // asked for, some of them stand for the rest
     const bool all =
         promised == promise::propagates || std::getenv("KIVO_EVERY_FAILURE") != nullptr;
-    const std::size_t step = all ? 1 : whole.steps() / 50 + 1;
+    const std::size_t step = all ? 1 : whole.steps() / 100 + 1;
     auto result = outcome::propagated;
     for (std::size_t allowed = 0; result != outcome::came_through && !::testing::Test::HasFailure();
          allowed += step) {

@@ -32,6 +32,12 @@ namespace detail {
 template <class Value>
 std::string fault_between(const Value& found, const Value& old, const Value& fresh);
 
+/// A value whose change always succeeds.
+template <class Value>
+inline constexpr bool never_fails = std::is_arithmetic_v<Value> || std::is_enum_v<Value>;
+template <class Value>
+inline constexpr bool never_fails<core::v7::optional<Value>> = never_fails<Value>;
+
 /// Goes through values in the order in which they become new: new ones, one that may be in between,
 /// and old ones.
 class order_of_change {
@@ -44,11 +50,16 @@ public:
             return now == text(old) ? "" : "new behind the failure: " + difference(now, text(old));
         }
         failed_ = now != text(fresh);
+        if (never_fails<Value> && failed_ && !hidden_) {
+            return "old ahead of the failure: " + now;
+        }
+        hidden_ = hidden_ || (!never_fails<Value> && text(old) == text(fresh));
         return failed_ ? fault_between(found, old, fresh) : "";
     }
 
 private:
     bool failed_ = false;
+    bool hidden_ = false; // the failure may be in a value that shows none
 };
 
 template <class Class>
