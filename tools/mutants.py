@@ -437,7 +437,7 @@ def chosen_mutants(classes, options):
     kinds = collections.defaultdict(list)
     for mutant in itertools.chain.from_iterable(made):
         folder, kind, what, _ = mutant
-        if folder in options.folders and options.only in f"{kind}: {what}":
+        if folder in options.folders and re.search(options.only, f"{kind}: {what}"):
             kinds[folder, kind].append(mutant)
     # of each kind as many as of any other, as far as there are enough
     for mutants in kinds.values():
@@ -453,7 +453,8 @@ def main():
                         help=f"whose faults: {', '.join(FOLDERS)}")
     parser.add_argument("--count", type=int, default=300, help="how many mutants are tried")
     parser.add_argument("--seed", type=int, default=1, help="which ones: the same for each seed")
-    parser.add_argument("--only", default="", help="only mutants whose kind or name holds this")
+    parser.add_argument("--only", default="",
+                        help="only mutants in whose kind and name this expression is found")
     options = parser.parse_args()
     classes = subsystems()
     kinds, chosen = chosen_mutants(classes, options)

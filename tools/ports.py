@@ -3,6 +3,7 @@
 
 ports.py packages [NAME...]  prints the Debian packages that the platforms need on this machine
 ports.py run [NAME...]       builds and tests the platforms, or all, in build/ports
+ports.py compare             measures the library over two standard libraries, side by side
 """
 import dataclasses
 import hashlib
@@ -10,6 +11,7 @@ import json
 import os
 import pathlib
 import shutil
+import statistics
 import subprocess
 import sys
 import time
@@ -383,6 +385,41 @@ def go_through(platform):
     return row
 
 
+def figures(program):
+    """What a run of the benchmark without peers tells: by operation, blocks and microseconds."""
+    told = subprocess.run([program], capture_output=True, text=True, check=True).stdout
+    return {name: (int(blocks), float(time)) for name, blocks, time in
+            (line.split('\t') for line in told.splitlines())}
+
+
+def compare():
+    """Blocks and times over GNU's and LLVM's library, by one compiler, in turns."""
+    runs = {}
+    for platform in (each for each in PLATFORMS if each.name in ('clang-19', 'libcxx')):
+        folder = WORK / platform.name
+        root, log = folder / 'root', folder / 'compared.log'
+        root.mkdir(parents=True, exist_ok=True)
+        unpack(platform, root, log)
+        for name in platform.built:
+            build_dependency(platform, name, root, log)
+        run(['cmake', '-S', SOURCE, '-B', folder / 'compared', '-G', 'Ninja',
+             '-DCMAKE_BUILD_TYPE=Release', '-DKIVO_BUILD_LAYOUT=ON', '-DKIVO_BUILD_BENCHMARKS=alone',
+             *platform.options, *toolchain(platform, root)], log)
+        run(['cmake', '--build', folder / 'compared', '--target', 'alone'], log)
+        runs[folder / 'compared' / 'benchmarks' / 'alone'] = []
+    for _ in range(9):
+        for program, told in runs.items():
+            told.append(figures(program))
+    gnu, llvm = runs.values()
+    print('| operation | blocks, GNU | blocks, LLVM | µs, GNU | LLVM to GNU |\n'
+          '| --- | ---: | ---: | ---: | ---: |')
+    for name, (blocks, _) in gnu[0].items():
+        ratios = sorted(one[name][1] / other[name][1] for one, other in zip(llvm, gnu))
+        print(f'| {name} | {blocks:,} | {llvm[0][name][0]:,} '
+              f'| {statistics.median(each[name][1] for each in gnu):.3g} '
+              f'| {statistics.median(ratios):.2f} ({ratios[0]:.2f}–{ratios[-1]:.2f}) |')
+
+
 def table(rows):
     """The rows as the table of docs/platforms.md."""
     lines = ['| platform | what | compiler | passed | failed | skipped | library, KB | minutes |',
@@ -405,12 +442,15 @@ def main():
     command, *names = sys.argv[1:] or ['']
     known = {platform.name: platform for platform in PLATFORMS}
     unknown = [name for name in names if name not in known]
-    if command not in ('packages', 'run') or unknown:
+    if command not in ('packages', 'run', 'compare') or unknown:
         sys.exit(f'ports: no {" ".join(unknown) or command or "command"}; '
                  f'platforms are {" ".join(known)}')
     chosen = [known[name] for name in names] or PLATFORMS
     if command == 'packages':
         print(*sorted({*ALWAYS, *(package for platform in chosen for package in platform.packages)}))
+        return
+    if command == 'compare':
+        compare()
         return
     rows = [go_through(platform) for platform in chosen]
     print(table(rows))
