@@ -296,10 +296,13 @@ def test(platform, build, log):
 
 def size(platform, root, log):
     """The bytes of the library as users get it, without what is for debuggers."""
-    build = WORK / platform.name / 'release'
-    run(['cmake', '-S', SOURCE, '-B', build, '-G', 'Ninja', '-DCMAKE_BUILD_TYPE=Release',
-         *platform.options, *toolchain(platform, root)], log)
-    run(['cmake', '--build', build, '--target', 'kivo-erp-fiscal'], log)
+    if platform.packed:
+        build = WORK / platform.name / 'package'
+    else:
+        build = WORK / platform.name / 'release'
+        run(['cmake', '-S', SOURCE, '-B', build, '-G', 'Ninja', '-DCMAKE_BUILD_TYPE=Release',
+             *platform.options, *toolchain(platform, root)], log)
+        run(['cmake', '--build', build, '--target', 'kivo-erp-fiscal'], log)
     installed = build / 'installed'
     run(['cmake', '--install', build, '--component', 'runtime', '--strip', '--prefix', installed], log)
     [library] = (file for pattern in ('lib/*.so.12.*', 'bin/*-12.dll')
@@ -366,9 +369,9 @@ def go_through(platform):
     run(['cmake', '--build', build], log)
     built = time.monotonic()
     passed, failed, themselves, failing = test(platform, build, log)
-    bytes_of_library = size(platform, root, log)
     if platform.packed:
         pack(platform, root, log)
+    bytes_of_library = size(platform, root, log)
     end = time.monotonic()
     row = {'platform': platform.name, 'what': platform.what, 'compiler': platform.compiler,
            'passed': passed, 'failed': failed, 'skipped': {**ELSEWHERE, **platform.skipped, **platform.left_out,
