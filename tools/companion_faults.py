@@ -273,7 +273,7 @@ class CompanionWorker:
     def succeeds(self, *words, cwd=None, quiet=False):
         """Whether a command succeeds, and ends; if it is to be quiet, says nothing on stderr."""
         process = subprocess.Popen(
-            ["prlimit", "--cpu=300", f"--as={8 << 30}", f"--fsize={1 << 28}", *map(str, words)],
+            ["prlimit", "--cpu=300", f"--as={8 << 30}", f"--fsize={6 << 30}", *map(str, words)],
             cwd=cwd or ROOT, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
             stderr=subprocess.PIPE if quiet else subprocess.DEVNULL, start_new_session=True,
             env={**os.environ, "TMPDIR": str(self.folder)})
