@@ -21,16 +21,17 @@ struct event {
     std::uint64_t number;
 };
 
-/// What a base value throws.
-struct failure {};
-
 // of one kind in the library and in the tests
-#define KIVO_SHARED inline __attribute__((visibility("default")))
+#define KIVO_SHARED __attribute__((visibility("default")))
 
-KIVO_SHARED std::vector<event>* log = nullptr; // null: nothing is logged
-KIVO_SHARED std::size_t live = 0;              // values that are not destroyed yet
-KIVO_SHARED std::size_t allowed = std::numeric_limits<std::size_t>::max(); // before a failure
-KIVO_SHARED bool failed = false;                                           // whether there was one
+/// What a base value throws.
+struct KIVO_SHARED failure {};
+
+inline KIVO_SHARED std::vector<event>* log = nullptr; // null: nothing is logged
+inline KIVO_SHARED std::size_t live = 0;              // values that are not destroyed yet
+inline KIVO_SHARED std::size_t allowed =
+    std::numeric_limits<std::size_t>::max(); // before a failure
+inline KIVO_SHARED bool failed = false;      // whether there was one
 
 #undef KIVO_SHARED
 
