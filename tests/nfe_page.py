@@ -3,7 +3,8 @@
 Usage: nfe_page.py        its visible texts, one a line
        nfe_page.py bars   what a reader of bar codes reads off its drawings, one a line
 
-Fails where the page is not well formed, or could load or run anything.
+Fails where the page is not well formed, could load or run anything, or shows an amount that does not
+end at the right.
 """
 
 import html.parser
@@ -25,6 +26,7 @@ class Page(html.parser.HTMLParser):
     def __init__(self, text):
         super().__init__(convert_charrefs=True)
         self.open, self.texts, self.styles, self.drawings = [], [], [], []
+        self.at_left = False  # whether the field of a form has its text there
         self.feed(text)
         self.close()
         if self.open:
@@ -43,6 +45,8 @@ class Page(html.parser.HTMLParser):
             self.drawings.append([attributes['viewbox'], ''])
         elif tag == 'path':
             self.drawings[-1][1] = attributes['d']
+        elif tag in ('dl', 'div'):
+            self.at_left = 'style' in attributes and attributes.get('class') != 'number'
         if tag not in VOID:
             self.open.append(tag)
 
@@ -61,6 +65,8 @@ class Page(html.parser.HTMLParser):
             self.styles.append(data)
         elif data.strip():
             self.texts.append(data)
+            if inside == 'dd' and self.at_left and re.fullmatch(r'[\d.]+,\d\d', data):
+                sys.exit(f'an amount that does not end at the right: {data}')
 
     def handle_comment(self, data):
         sys.exit(f'a comment: {data}')

@@ -84,6 +84,7 @@ run 0 '1  320   Gasolina A comum           27101259  5652     3.000  LT         
 run 0 '1  a field cannot hold a text of the file' --help
 [[ $(head -1 "$folder/out") = 'Usage: nfe_summary '* ]] || fault 'the help begins otherwise'
 shows '0  all is well' '2  a file cannot be read'
+[ "$(grep -cE '^  nfe_summary [a-z-]' "$folder/out")" = 7 ] || fault 'the help has other examples'
 
 # No width is exceeded, and columns stand below each other, accents or not.
 for width in 40 66 80 120; do
@@ -91,6 +92,7 @@ for width in 40 66 80 120; do
     ! grep -E "^.{$((width + 1))}" "$folder/out" || fault "wider than $width"
     tr -s ' \n' ' ' < "$folder/out" | grep -qF 'Base de cálculo do ICMS reduzida; garantia de 12 meses' ||
         fault "text is lost at $width"
+    [ "$(grep -c '^Authorisation ' "$folder/out")" = 1 ] || fault "a label stands twice at $width"
 done
 for width in {60..110}; do # a column has its place or is told
     run 0 'Invoice total' --width "$width" "$data/nfe.xml"
@@ -111,7 +113,10 @@ echo '<CTe/>' > "$folder/other.xml"
 head -c 1048577 /dev/zero > "$folder/large.xml"
 echo '<NFe><infNFe versao="4.00" Id="NFe1"/></NFe>' > "$folder/hollow.xml"
 mkfifo "$folder/pipe"
-run 2 'missing.xml: cannot be read: No such file or directory' "$folder/missing.xml"
+for how in '' --csv --json --xml --html --check; do
+    # shellcheck disable=SC2086
+    run 2 'missing.xml: cannot be read: No such file or directory' $how "$folder/missing.xml"
+done
 run 2 'empty.xml: is empty' "$folder/empty.xml"
 run 2 'large.xml: larger than the limit of 1 MB' --limit 1 "$folder/large.xml"
 run 2 '-: larger than the limit of 1 MB' --limit 1 - < <(cat "$folder/large.xml")

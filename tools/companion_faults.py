@@ -336,7 +336,7 @@ class CompanionWorker:
         targets = ["kivo-erp-fiscal-layout"]
         if path.startswith("tools/"):  # what is most likely to find it comes first
             targets = ["nfe_summary_parts"]
-            tests = ["nfe_summary.sh", "tool_tests", "translations.sh"]
+            tests = ["nfe_summary.sh", "tool_tests", "translations.sh", "nfe_page.sh"]
         elif MAP in text and path != "layout/map.hpp":
             tests = [FACTS, "invoice_tests", QUICK]
         else:
@@ -372,8 +372,8 @@ class CompanionWorker:
             if not (program.parent / "locale").exists():
                 (program.parent / "locale").symlink_to(
                     self.build.folder / "tools/nfe_summary/locale")
-            arguments = ([program, ROOT / "examples/data"] if test == "nfe_summary.sh" else
-                         [self.overlay / "tools/nfe_summary", program])
+            arguments = ([self.overlay / "tools/nfe_summary", program] if test == "translations.sh"
+                         else [program, ROOT / "examples/data"])
             return self.succeeds(ROOT / "tests" / test, *arguments, quiet=test == "nfe_summary.sh")
         return self.succeeds(program, "--gtest_brief=1", "--gtest_fail_fast",
                              f"--gtest_filter={only}")
