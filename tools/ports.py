@@ -105,6 +105,7 @@ PLATFORMS = [
              unpacked=['nlohmann-json3-dev'], built=list(SOURCES),
              options=['-DKIVO_RANDOM_TESTS=OFF'],
              environment={
+                 'LC_ALL': 'C.UTF-8',  # wine writes the names of files in the locale's code
                  'WINEPREFIX': f'{WORK}/windows/wine', 'WINEDEBUG': '-all',
                  'WINEDLLOVERRIDES': 'winemenubuilder.exe=d;mscoree=d;mshtml=d',
                  'WINEPATH': ';'.join('Z:' + folder.replace('/', '\\') for folder in (
