@@ -260,7 +260,8 @@ def test(platform, build, log):
     """Runs the tests; answers how many passed, failed and skipped themselves, and what failed."""
     results = build / 'cases'
     shutil.rmtree(results, ignore_errors=True)
-    environment = dict(os.environ, GTEST_OUTPUT=f'xml:{results}/')
+    # from the folder in which the programs run: to those of Windows no absolute name begins with a slash
+    environment = dict(os.environ, GTEST_OUTPUT=f'xml:{results.relative_to(SOURCE)}/')
     if platform.left_out:
         environment['GTEST_FILTER'] = '-' + ':'.join(platform.left_out)
     with open(log, 'a', encoding='utf-8') as file:
