@@ -6,6 +6,7 @@
 #include <layout/kept.hpp>
 #include <layout/xml_text.hpp>
 
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
@@ -88,7 +89,8 @@ namespace {
 /// What is made of the content of a file; a failure names the file.
 template <class Make> auto from_file(const std::string& path, Make make) {
     try {
-        std::ifstream file(path, std::ios::binary);
+        const std::filesystem::path name(std::u8string(path.begin(), path.end()));
+        std::ifstream file(name, std::ios::binary);
         std::ostringstream content;
         // a directory opens, and fails only when it is read
         if (!file || !(content << file.rdbuf())) {

@@ -37,8 +37,8 @@ invoice_document read_document(const tree& document);
 /// The same of an XML document, with or without namespace prefixes; see `parse_xml`.
 invoice_document read_xml(std::string_view xml);
 
-/// The same from a file; also throws std::runtime_error where the file cannot be read. What is
-/// thrown names the file.
+/// The same from a file, whose name is UTF-8 on Windows, too; also throws std::runtime_error where
+/// the file cannot be read. What is thrown names the file.
 invoice_document read_file(const std::string& path);
 
 /// The XML document of a file; throws as `parse_xml` and `read_file` do.

@@ -7,6 +7,8 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <filesystem>
+#include <random>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -161,6 +163,23 @@ TEST(invoice, what_is_no_invoice_is_refused_with_a_reason) {
     EXPECT_THROW(read_xml("<NFe>" + closed + "</NFe>"), std::runtime_error) << "nested too deeply";
     EXPECT_THROW(read_file("no such file.xml"), std::runtime_error);
     EXPECT_THROW(read_file("."), std::runtime_error) << "a folder";
+}
+
+// Catches a name that is taken for one in a code of the system's own.
+TEST(xml, is_read_from_a_file_that_is_named_in_utf_8) {
+    std::filesystem::path file = std::filesystem::temp_directory_path() / u8"emissão 東 ";
+    file += std::to_string(std::random_device()());
+    const std::u8string bytes = file.u8string();
+    const std::string name(bytes.begin(), bytes.end());
+    std::filesystem::copy_file(KIVO_SOURCE_DIR "/examples/data/nfe.xml", file);
+    EXPECT_EQ(read_file(name).invoice.get_numero(), 18642U);
+    std::filesystem::remove(file);
+    try {
+        read_file(name);
+        ADD_FAILURE() << "was read";
+    } catch (const std::runtime_error& failure) {
+        EXPECT_EQ(failure.what(), name + ": cannot be read");
+    }
 }
 
 /// A text in UTF-16, of characters below U+0080 alone.
