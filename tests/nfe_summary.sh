@@ -101,6 +101,9 @@ for width in {60..110}; do # a column has its place or is told
         [ "$(grep -oF " $column " <<< "$told " | wc -l)" = 1 ] || fault "$width: $column in $told"
     done
 done
+# What is said of an item is said in one breath.
+run 0 "(not part of the invoice's total) Base de cálculo do ICMS reduzida" \
+    --width 180 <(sed 's|<indTot>1|<indTot>0|' "$data/nfe.xml")
 run 0 'Sabão em barra desengraxante para oficina, 1 kg, sem perfume  ' --width 180 "$data/nfe.xml"
 before_unit=$(sed -n 's/Unit .*//p' "$folder/out")
 [ "$(grep -cE "^.{${#before_unit}}(UN|CX|KG) " "$folder/out")" = 4 ] || fault 'units not aligned'
@@ -162,6 +165,9 @@ for arguments in '' --json --xml --csv --help --check; do
     { [ "$status" = 2 ] && grep -qF 'the output cannot be written' "$folder/err"; } ||
         fault "$arguments: does not tell that the disk is full"
 done
+
+# No file stays open.
+(ulimit -n 12 && "$program" "$data" > "$folder/out" 2> "$folder/err") || fault 'files stay open'
 
 # A text that a field cannot hold is told.
 sed '/<emit>/,/<\/emit>/s|<CNPJ>[^<]*</CNPJ>|<CNPJ>12</CNPJ>|' "$data/difal.xml" > "$folder/refused.xml"

@@ -338,7 +338,7 @@ class CompanionWorker:
             targets = ["nfe_summary_parts"]
             tests = ["nfe_summary.sh", "tool_tests", "translations.sh", "nfe_page.sh"]
         elif MAP in text and path != "layout/map.hpp":
-            tests = [FACTS, "invoice_tests", QUICK]
+            tests = [FACTS, "invoice_tests", QUICK, WHOLE]
         else:
             tests = ["invoice_tests", "layout_tests", QUICK, "nfe_summary.sh", "tool_tests",
                      "companion_failure_tests", FACTS, WHOLE]
