@@ -9,6 +9,7 @@ import json
 import os
 import pathlib
 import re
+import select
 import shlex
 import shutil
 import subprocess
@@ -278,7 +279,8 @@ class CompanionWorker:
             stderr=subprocess.PIPE if quiet else subprocess.DEVNULL, start_new_session=True,
             env={**os.environ, "TMPDIR": str(self.folder)})
         try:
-            if quiet and process.stderr.readline():
+            if quiet and (not select.select([process.stderr], [], [], 300)[0]
+                          or process.stderr.readline()):
                 return False
             return process.wait(timeout=300) == 0
         except subprocess.TimeoutExpired:
