@@ -25,7 +25,8 @@ WARNINGS = '-Wall -Wextra -Wpedantic -Wconversion -Wshadow'
 DEPENDENCIES = ('libpugixml-dev libpugixml1v5 libfmt-dev libfmt9 libutf8proc-dev libutf8proc2 '
                 'libzint-dev libzint2.11 libpng16-16 zlib1g '
                 'nlohmann-json3-dev libgtest-dev librapidcheck-dev '
-                'libc6 libgcc-s1 libstdc++6').split()
+                # the locales that a program finds are of its processor, too
+                'libc6 libc-bin libgcc-s1 libstdc++6').split()
 # what is built from Debian's sources, in this order, where no package fits the compiler
 SOURCES = {
     'googletest': [],  # a package of sources on this machine
