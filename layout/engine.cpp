@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <unordered_set>
+#include <vector>
 
 namespace kivo::erp::v12::layout {
 
@@ -64,6 +65,44 @@ bool in_order(const node& group, const element_rule* rule) {
             result = result && position >= last;
             last = position;
         });
+    }
+    return result;
+}
+
+/// An element that the layout knows in its group.
+struct known_child {
+    const node* element;
+    unsigned position;
+    bool has_field;
+};
+
+/// The fewest elements that have to move for all to stand in the layout's order; of two that could,
+/// the one without a field, and else the later one. All positions are below a limit.
+std::vector<const node*> moved_among(const std::vector<known_child>& known, std::size_t limit) {
+    constexpr std::size_t none = static_cast<std::size_t>(-1);
+    // of those that may stay, by the position of the last: how much they are, and which is the last
+    std::vector<std::size_t> most(limit, 0);
+    std::vector<std::size_t> last(limit, none);
+    std::vector<std::size_t> before(known.size(), none);
+    for (std::size_t index = 0; index < known.size(); ++index) {
+        const known_child& own = known[index];
+        const auto up_to_own = most.begin() + own.position + 1;
+        const auto longest = std::max_element(most.begin(), up_to_own);
+        before[index] = last[static_cast<std::size_t>(longest - most.begin())];
+        most[own.position] = *longest + known.size() + (own.has_field ? 1 : 0);
+        last[own.position] = index;
+    }
+    std::vector<bool> stays(known.size(), false);
+    const auto longest = std::max_element(most.rbegin(), most.rend());
+    for (std::size_t index = last[static_cast<std::size_t>(most.rend() - longest) - 1];
+         index != none; index = before[index]) {
+        stays[index] = true;
+    }
+    std::vector<const node*> result;
+    for (std::size_t index = 0; index < known.size(); ++index) {
+        if (!stays[index]) {
+            result.push_back(known[index].element);
+        }
     }
     return result;
 }
@@ -139,7 +178,7 @@ frame reader::read_elements(const table& known, const node& parent, void* object
                 mixed_.insert(&parent);
             }
         }
-        last = child.name.is_attribute() ? last : name;
+        last = child.name.is_attribute() ? last : std::max(last, name);
         expected = name + 1;
     }
     tell_text_in_group(parent);
@@ -356,23 +395,16 @@ void reader::tell_order() {
         if (above != root_) {
             continue;
         }
-        const node* before = nullptr;
-        const node* moved = nullptr;
-        unsigned last = 0;
-        for_each_in_place(*group, *rule_of(*group), [&](const node& child, unsigned position) {
-            if (is_gone(child)) {
-                return;
+        const element_rule& rule = *rule_of(*group);
+        std::vector<known_child> known;
+        for_each_in_place(*group, rule, [&](const node& child, unsigned position) {
+            if (!is_gone(child)) {
+                known.push_back({&child, position, has_field(child)});
             }
-            if (before != nullptr && position < last) {
-                const node* const told = has_field(child) && !has_field(*before) ? before : &child;
-                if (told != moved) {
-                    tell_moved(*told, "in the layout's order");
-                }
-                moved = told;
-            }
-            before = &child;
-            last = position;
         });
+        for (const node* const element : moved_among(known, rule.children().size())) {
+            tell_moved(*element, "in the layout's order");
+        }
     }
 }
 

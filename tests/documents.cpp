@@ -425,6 +425,18 @@ TEST(documents, tell_what_the_objects_cannot_tell) {
              inner.push_back(last);
          },
          {"otherwise: ide/verProc [] in the layout's order", "no room: ide/tpNF[2] [0] "}},
+        {"ide/xJust", // what passes one that moves may move, too
+         [](element& infnfe) {
+             std::vector<element>& inner = infnfe.at("ide").inner;
+             for (const char* const name : {"tpEmis", "tpImp", "tpNF"}) {
+                 const element moved = infnfe.at(std::string("ide/") + name);
+                 std::erase_if(inner, [&](const element& each) { return each.name == name; });
+                 inner.push_back(moved);
+             }
+         },
+         {"otherwise: ide/tpEmis [] in the layout's order",
+          "otherwise: ide/tpImp [] in the layout's order",
+          "otherwise: ide/tpNF [] in the layout's order"}},
         {"det/prod/arma",
          [](element& infnfe) {
              infnfe.at("det/prod").inner.push_back(small_element("det/prod/med"));

@@ -85,6 +85,7 @@ run 0 '1  a field cannot hold a text of the file' --help
 [[ $(head -1 "$folder/out") = 'Usage: nfe_summary '* ]] || fault 'the help begins otherwise'
 shows '0  all is well' '2  a file cannot be read'
 [ "$(grep -cE '^  nfe_summary [a-z-]' "$folder/out")" = 7 ] || fault 'the help has other examples'
+run 0 'nfe_summary 12.' --version
 
 # No width is exceeded, and columns stand below each other, accents or not.
 for width in 40 66 80 120; do

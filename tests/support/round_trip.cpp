@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <charconv>
 #include <tuple>
+#include <utility>
+#include <vector>
 
 namespace kivo::tests {
 
@@ -143,6 +145,9 @@ private:
         if (element == nullptr) {
             faults_.push_back(remark.path + ": is told, and not there");
         } else if (remark.instead == "in the layout's order") {
+            if (element->moved) {
+                faults_.push_back(remark.path + ": is told twice to move");
+            }
             element->moved = true;
         } else if (const std::size_t bracket = remark.path.rfind('[');
                    remark.path.ends_with(']') &&
@@ -181,11 +186,10 @@ private:
         parent->text = remark.instead;
     }
 
-    /// Of two that are written in the other order one is told to be moved, and nothing else is.
+    /// What is not told to move stands in the order in which it is written, and what is told to
+    /// move does not.
     void check_moves(const told_element& parent, const element_rule& rule) {
-        const told_element* before = nullptr;
-        unsigned last = 0;
-        bool excused = true; // whether the one before is told to move, and does
+        std::vector<std::pair<unsigned, const told_element*>> known; // by position
         for (const told_element& each : parent.inner) {
             const element_rule* const own = rule.child(each.name);
             if (each.removed && each.moved) {
@@ -194,20 +198,25 @@ private:
             if (own == nullptr || each.is_attribute() || each.added || each.removed) {
                 continue;
             }
-            const bool moves = before != nullptr && own->position() < last;
-            if (moves && !before->moved && !each.moved) {
-                faults_.push_back(rule.path() + ": its elements move, which is not told");
-            }
-            if (!excused && !moves) {
-                faults_.push_back(rule.path() + ": an element is told to move, and does not");
-            }
-            excused = moves || !each.moved;
-            last = own->position();
-            before = &each;
+            known.emplace_back(own->position(), &each);
             check_moves(each, *own);
         }
-        if (!excused) {
-            faults_.push_back(rule.path() + ": its last element is told to move, and does not");
+        unsigned last = 0;
+        for (const auto& [position, element] : known) {
+            if (!element->moved) {
+                if (position < last) {
+                    faults_.push_back(rule.path() + ": its elements move, which is not told");
+                }
+                last = position;
+                continue;
+            }
+            const auto passed = [&, position = position, element = element](const auto& other) {
+                return !other.second->moved &&
+                       (other.second < element ? other.first > position : other.first < position);
+            };
+            if (std::none_of(known.begin(), known.end(), passed)) {
+                faults_.push_back(rule.path() + ": an element is told to move, and does not");
+            }
         }
     }
 
