@@ -11,6 +11,7 @@
 
 #include <fmt/format.h>
 
+#include <bit>
 #include <exception>
 #include <functional>
 #include <string_view>
@@ -49,7 +50,7 @@ std::size_t content_of(const layout::node& infnfe) {
     std::size_t result = 0;
     for (const layout::node* element = &infnfe; element != &infnfe + infnfe.size; ++element) {
         for (const std::string_view text : {element->name.text(), element->text}) {
-            result = (result << 7U | result >> 57U) ^ hash(text);
+            result = std::rotl(result, 7) ^ hash(text);
         }
     }
     return result;
