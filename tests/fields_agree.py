@@ -133,13 +133,14 @@ def form_fits(place, element):
     return content not in ("date", "datetime")
 
 
-def layout_faults(place, elements):
+def layout_faults(place, elements, root):
     element = elements.get(place.path)
     if element is None:
         yield f"{place.path}: no element of the layout"
         return
     if place.kind == "embedded":
         return
+    yield from default_faults(place, element, root)
     if not form_fits(place, element):
         yield f"{place.path}: {place.owner}::{place.getter} holds {place.holds}, the layout {element.content}"
     if (place.count == "list") != (element.most > 1) and place.path not in LISTS_OF_ONE:
@@ -148,13 +149,19 @@ def layout_faults(place, elements):
         yield f"{place.path}: optional, although the layout demands the group"
 
 
-def default_faults(place, root):
-    """A 0 that is no code of the layout is not written."""
+def default_faults(place, element, root):
+    """What is 0 before it is set is written where the layout demands it and takes a 0."""
     header = "".join(path.read_text() for name in (place.owner, place.type)
                      if (path := root / f"fiscal/{name}.hpp").exists())
     unset = re.search(rf"enum class {place.type} [^}}]*?\w+ = 0,\s+///< never set; not a code", header)
-    if unset and place.count == "plain" and not place.omit_default:
+    if place.count != "plain" or place.value not in ("decimal", "number"):
+        return
+    takes_zero = place.value == "decimal" or "0" in re.split(", | or ", element.demanded)
+    optional = element.occurs == "0-1" and (place.value == "decimal" or not takes_zero)
+    if (unset or optional) and not place.omit_default:
         yield f"{place.path}: {place.owner}::{place.getter} is written before it is set"
+    if element.occurs == "1" and takes_zero and place.omit_default:
+        yield f"{place.path}: {place.owner}::{place.getter} is left out while it is 0"
 
 
 def code_faults(places, elements, root):
@@ -221,8 +228,7 @@ def faults(folder, root):
         yield f"{owner}: no class of a subsystem"
     for place in places:
         if place.kind != "without element":
-            yield from layout_faults(place, elements)
-            yield from default_faults(place, root)
+            yield from layout_faults(place, elements, root)
     yield from code_faults(places, elements, root)
     yield from order_faults(places, elements)
 

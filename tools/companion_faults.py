@@ -271,18 +271,18 @@ class CompanionWorker:
         self.build, self.folder = build, build.folder / "mutants" / f"companion{number}"
         self.overlay, self.fresh = self.folder / "overlay", {}
 
-    def succeeds(self, *words, cwd=None, quiet=False):
+    def succeeds(self, *words, cwd=None, quiet=False, seconds=300):
         """Whether a command succeeds, and ends; if it is to be quiet, says nothing on stderr."""
         process = subprocess.Popen(
-            ["prlimit", "--cpu=300", f"--as={8 << 30}", f"--fsize={6 << 30}", *map(str, words)],
+            ["prlimit", f"--cpu={seconds}", f"--as={8 << 30}", f"--fsize={6 << 30}", *map(str, words)],
             cwd=cwd or ROOT, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
             stderr=subprocess.PIPE if quiet else subprocess.DEVNULL, start_new_session=True,
             env={**os.environ, "TMPDIR": str(self.folder)})
         try:
-            if quiet and (not select.select([process.stderr], [], [], 300)[0]
+            if quiet and (not select.select([process.stderr], [], [], seconds)[0]
                           or process.stderr.readline()):
                 return False
-            return process.wait(timeout=300) == 0
+            return process.wait(timeout=seconds) == 0
         except subprocess.TimeoutExpired:
             return False
         finally:
@@ -378,4 +378,5 @@ class CompanionWorker:
                          else [program, ROOT / "examples/data"])
             return self.succeeds(ROOT / "tests" / test, *arguments, quiet=test == "nfe_summary.sh")
         return self.succeeds(program, "--gtest_brief=1", "--gtest_fail_fast",
-                             f"--gtest_filter={only}")
+                             f"--gtest_filter={only}",
+                             seconds=1200 if (test, only) == WHOLE else 300)
