@@ -3,6 +3,7 @@
 #include <layout/elements.hpp>
 
 #include <algorithm>
+#include <cstdint>
 #include <unordered_set>
 #include <vector>
 
@@ -81,7 +82,7 @@ struct known_child {
 std::vector<const node*> moved_among(const std::vector<known_child>& known, std::size_t limit) {
     constexpr std::size_t none = static_cast<std::size_t>(-1);
     // of those that may stay, by the position of the last: how much they are, and which is the last
-    std::vector<std::size_t> most(limit, 0);
+    std::vector<std::uint64_t> most(limit, 0);
     std::vector<std::size_t> last(limit, none);
     std::vector<std::size_t> before(known.size(), none);
     for (std::size_t index = 0; index < known.size(); ++index) {
