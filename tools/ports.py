@@ -185,9 +185,14 @@ def apt(architecture, log):
     return environment
 
 
+def mark_of(root, done, how):
+    """The file that tells that something was done to a root in this way."""
+    return root / f'{done}-{hashlib.sha256(repr(how).encode()).hexdigest()}'
+
+
 def unpack(platform, root, log):
     """Unpacks a platform's packages, once for a list of them."""
-    mark = root / ('unpacked-' + hashlib.sha256(' '.join(platform.unpacked).encode()).hexdigest())
+    mark = mark_of(root, 'unpacked', platform.unpacked)
     if mark.exists() or not platform.unpacked:
         return
     packages = WORK / platform.name / 'packages'
@@ -239,13 +244,15 @@ def build_commands(platform, name, source, build, root):
 
 def build_dependency(platform, name, root, log):
     """Builds one of SOURCES into a platform's root, and keeps its licence there."""
-    mark = root / f'built-{name}'
-    if mark.exists():
-        return
     source = unpacked_source(name, log)
     build = WORK / platform.name / 'dependencies' / name
-    build.mkdir(parents=True, exist_ok=True)
-    for command in build_commands(platform, name, source, build, root):
+    commands = build_commands(platform, name, source, build, root)
+    mark = mark_of(root, f'built-{name}', [[str(word) for word in words] for words in commands])
+    if mark.exists():
+        return
+    shutil.rmtree(build, ignore_errors=True)
+    build.mkdir(parents=True)
+    for command in commands:
         run(command, log, cwd=build)
     licence = source / 'debian' / 'copyright'
     if licence.exists():
