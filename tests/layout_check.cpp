@@ -381,12 +381,12 @@ TEST(checked_documents, tell_where_the_fault_is_and_what_is_demanded) {
              change(all, "ide/cUF", "");
              change(all, "ide/mod", "57");
              add(all, "ide/mod[2]", "55", "ide/serie");
-             change(all, "transp/modFrete", "7");
+             change(all, "ide/tpNF", "7");
          },
          {{kind::wrong_text, "ide/cUF", "", demanded_text(*rule_at("ide/cUF"))},
           {kind::wrong_text, "ide/mod[1]", "57", "55 or 65"},
           {kind::too_many, "ide/mod[2]", "55", "at most 1"},
-          {kind::wrong_text, "transp/modFrete", "7", "0, 1, 2, 3, 4 or 9"}}},
+          {kind::wrong_text, "ide/tpNF", "7", "0 or 1"}}},
     };
     for (const auto& row : rows) {
         texts all = texts_with(row.with);
