@@ -80,7 +80,7 @@ struct known_child {
 /// The fewest elements that have to move for all to stand in the layout's order; of two that could,
 /// the one without a field, and else the later one. All positions are below a limit.
 std::vector<const node*> moved_among(const std::vector<known_child>& known, std::size_t limit) {
-    constexpr std::size_t none = static_cast<std::size_t>(-1);
+    constexpr auto none = static_cast<std::size_t>(-1);
     // of those that may stay, by the position of the last: how much they are, and which is the last
     std::vector<std::uint64_t> most(limit, 0);
     std::vector<std::size_t> last(limit, none);
