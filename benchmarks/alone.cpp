@@ -3,15 +3,13 @@
 
 #include <layout/xml.hpp>
 
-#include <algorithm>
 #include <chrono>
+#include <cstdint>
 #include <cstdio>
 #include <fstream>
 #include <functional>
 #include <iterator>
 #include <string>
-#include <utility>
-#include <vector>
 
 /// The library without its peers, which are built over one standard library alone: a line for each
 /// operation, with the blocks it takes and its time in microseconds, apart by tabs.

@@ -262,6 +262,23 @@ def build_dependency(platform, name, root, log):
     mark.touch()
 
 
+def prepare(platform, log):
+    """Unpacks and builds what a platform needs; answers the folder in which it is."""
+    root = WORK / platform.name / 'root'
+    root.mkdir(parents=True, exist_ok=True)
+    unpack(platform, root, log)
+    for name in platform.built:
+        build_dependency(platform, name, root, log)
+    return root
+
+
+def build_release(platform, build, root, log, target, *settings):
+    """Builds a target as users get it."""
+    run(['cmake', '-S', SOURCE, '-B', build, '-G', 'Ninja', '-DCMAKE_BUILD_TYPE=Release', *settings,
+         *platform.options, *toolchain(platform, root)], log)
+    run(['cmake', '--build', build, '--target', target], log)
+
+
 def cases(file):
     """The cases of a GoogleTest program that ran: passed, failed and skipped by themselves."""
     passed = failed = skipped = 0
@@ -310,9 +327,7 @@ def size(platform, root, log):
         build = WORK / platform.name / 'package'
     else:
         build = WORK / platform.name / 'release'
-        run(['cmake', '-S', SOURCE, '-B', build, '-G', 'Ninja', '-DCMAKE_BUILD_TYPE=Release',
-             *platform.options, *toolchain(platform, root)], log)
-        run(['cmake', '--build', build, '--target', 'kivo-erp-fiscal'], log)
+        build_release(platform, build, root, log, 'kivo-erp-fiscal')
     installed = build / 'installed'
     run(['cmake', '--install', build, '--component', 'runtime', '--strip', '--prefix', installed], log)
     [library] = (file for pattern in ('lib/**/*.so.12.*', 'bin/*-12.dll')
@@ -360,14 +375,11 @@ def go_through(platform):
     """Builds and tests one platform; answers its row of the table."""
     start = time.monotonic()
     folder = WORK / platform.name
-    root = folder / 'root'
-    root.mkdir(parents=True, exist_ok=True)
+    folder.mkdir(parents=True, exist_ok=True)
     log = folder / 'log'
     log.unlink(missing_ok=True)
     print(f'== {platform.name}: {platform.what}; {log}', flush=True)
-    unpack(platform, root, log)
-    for name in platform.built:
-        build_dependency(platform, name, root, log)
+    root = prepare(platform, log)
     build = folder / 'build'
     of_machine = dict(os.environ)
     os.environ.update(CMAKE_CXX_COMPILER_LAUNCHER='ccache', CCACHE_BASEDIR=str(SOURCE),
@@ -410,15 +422,10 @@ def compare():
     runs = {}
     for platform in (each for each in PLATFORMS if each.name in ('clang-19', 'libcxx')):
         folder = WORK / platform.name
-        root, log = folder / 'root', folder / 'compared.log'
-        root.mkdir(parents=True, exist_ok=True)
-        unpack(platform, root, log)
-        for name in platform.built:
-            build_dependency(platform, name, root, log)
-        run(['cmake', '-S', SOURCE, '-B', folder / 'compared', '-G', 'Ninja',
-             '-DCMAKE_BUILD_TYPE=Release', '-DKIVO_BUILD_LAYOUT=ON', '-DKIVO_BUILD_BENCHMARKS=alone',
-             *platform.options, *toolchain(platform, root)], log)
-        run(['cmake', '--build', folder / 'compared', '--target', 'alone'], log)
+        folder.mkdir(parents=True, exist_ok=True)
+        log = folder / 'compared.log'
+        build_release(platform, folder / 'compared', prepare(platform, log), log, 'alone',
+                      '-DKIVO_BUILD_LAYOUT=ON', '-DKIVO_BUILD_BENCHMARKS=alone')
         runs[folder / 'compared' / 'benchmarks' / 'alone'] = []
     for _ in range(9):
         for program, told in runs.items():
