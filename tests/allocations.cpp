@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <type_traits>
 #include <utility>
 #include <variant>
@@ -39,10 +40,12 @@ template <class Class> bool is_eager() {
 
 /// Sums up over what is right below a value: the content of an optional or a variant, the items
 /// of a list, the fields of a group.
-template <class Value, class Count> std::size_t sum_below(const Value& value, Count count) {
-    std::size_t result = 0;
+template <class Sum, class Value, class Count> Sum sum_below(const Value& value, Count count) {
+    Sum result{};
     if constexpr (is_optional<Value>) {
-        result = value ? count(*value) : 0;
+        if (value) {
+            result = count(*value);
+        }
     } else if constexpr (is_list<Value>) {
         for (const auto& item : value) {
             result += count(item);
@@ -56,31 +59,43 @@ template <class Value, class Count> std::size_t sum_below(const Value& value, Co
     return result;
 }
 
-/// The blocks that a value holds, and so those that its copy takes.
-template <class Value> std::size_t held_blocks(const Value& value) {
-    std::size_t own = 0;
-    if constexpr (std::is_same_v<Value, std::string>) {
-        own = value.size() > std::string().capacity() ? 1 : 0;
-    } else if constexpr (is_list<Value>) {
-        own = value.empty() ? 0 : 1;
-    } else if constexpr (lazy_group<Value>) {
-        if (texts(value) == texts(Value())) { // no record, and so none below it
-            return 0;
-        }
-        own = 1;
-    } else if constexpr (group<Value>) {
-        own = is_eager<Value>() ? 1 : 0;
-    }
-    return own + sum_below(value, [](const auto& below) { return held_blocks(below); });
-}
+/// The blocks of a value.
+struct blocks {
+    std::size_t held = 0;     ///< those that it holds, and so those that its copy takes
+    std::size_t assigned = 0; ///< those that copying it over one of the same shape takes
+    std::size_t moved = 0;    ///< those that moving it takes
 
-/// The blocks that copying a value over one of the same shape takes: texts, lists and eager
-/// records keep theirs, a lazy object is copied and swapped.
-template <class Value> std::size_t assigned_blocks(const Value& value) {
-    if constexpr (lazy_group<Value>) {
-        return held_blocks(value);
+    blocks& operator+=(const blocks& other) {
+        held += other.held;
+        assigned += other.assigned;
+        moved += other.moved;
+        return *this;
+    }
+};
+
+/// A text and a list have a block each, and keep it where they are assigned to. A lazy object is
+/// copied and swapped, and handed over by a move; an eager one has a record from the first, which
+/// it keeps, so that a move takes a new one.
+template <class Value> blocks blocks_of(const Value& value) {
+    if constexpr (std::is_same_v<Value, std::string>) {
+        return {.held = value.size() > std::string().capacity() ? 1U : 0U};
     } else {
-        return sum_below(value, [](const auto& below) { return assigned_blocks(below); });
+        auto result = sum_below<blocks>(value, [](const auto& below) { return blocks_of(below); });
+        if constexpr (is_list<Value>) {
+            result.held += value.empty() ? 0 : 1;
+            result.moved = 0;
+        } else if constexpr (lazy_group<Value>) {
+            if (texts(value) == texts(Value())) { // no record, and so none below it
+                return {};
+            }
+            ++result.held;
+            result.assigned = result.held;
+            result.moved = 0;
+        } else if constexpr (group<Value>) {
+            result.held += is_eager<Value>() ? 1 : 0;
+            result.moved += is_eager<Value>() ? 1 : 0;
+        }
+        return result;
     }
 }
 
@@ -89,58 +104,51 @@ template <class Class, class Parameter> constexpr bool takes_a_copy(void (Class:
     return !std::is_reference_v<Parameter>;
 }
 
-/// The blocks that a move takes: new records for eager objects, while all else is handed over.
-template <class Value> std::size_t moved_blocks(const Value& value) {
-    if constexpr (lazy_group<Value> || is_list<Value>) {
-        return 0;
-    } else {
-        std::size_t own = 0;
-        if constexpr (group<Value>) {
-            own = is_eager<Value>() ? 1 : 0;
-        }
-        return own + sum_below(value, [](const auto& below) { return moved_blocks(below); });
-    }
-}
-
 template <class Class> void check_whole(const Class& object) {
-    EXPECT_EQ(blocks_taken_by([] { Class(); }), held_blocks(Class()));
+    EXPECT_EQ(blocks_taken_by([] { Class(); }), blocks_of(Class()).held);
 
     Class target = object;
-    EXPECT_EQ(blocks_taken_by([&] { Class{object}; }), held_blocks(object));
-    EXPECT_EQ(blocks_taken_by([&] { target = object; }), assigned_blocks(object));
+    const blocks expected = blocks_of(object);
+    EXPECT_EQ(blocks_taken_by([&] { Class{object}; }), expected.held);
+    EXPECT_EQ(blocks_taken_by([&] { target = object; }), expected.assigned);
 
     auto source = std::make_unique<Class>(object);
     EXPECT_EQ(blocks_taken_by([&] { target = std::move(*source); }), 0U);
-    EXPECT_EQ(blocks_taken_by([&] { Class{std::move(target)}; }), moved_blocks(object));
+    EXPECT_EQ(blocks_taken_by([&] { Class{std::move(target)}; }), expected.moved);
     EXPECT_EQ(blocks_taken_by([&] { source.reset(); }), 0U);
+}
+
+/// The blocks of a record before any field is set.
+template <class Class> std::size_t blocks_of_a_record() {
+    return 1 + sum_below<blocks>(Class(), [](const auto& below) { return blocks_of(below); }).held;
+}
+
+void expect_blocks(std::size_t taken, std::size_t expected, std::string_view setter,
+                   const char* when) {
+    EXPECT_EQ(taken, expected) << setter << when;
 }
 
 template <class Class> void check_accessors(const Class& object) {
     for_each_field<Class>([&](const auto& field, std::size_t) {
         const auto value = (object.*field.get)();
         using value_type = std::remove_const_t<decltype(value)>;
-        EXPECT_EQ(blocks_taken_by([&] { (object.*field.get)(); }), held_blocks(value))
-            << field.setter_name;
+        const auto [held, assigned, moved] = blocks_of(value);
+        expect_blocks(blocks_taken_by([&] { (object.*field.get)(); }), held, field.setter_name,
+                      ", or rather its getter");
 
         Class target = object;
-        EXPECT_EQ(blocks_taken_by([&] { (target.*field.set)(value); }),
-                  takes_a_copy(field.set) ? held_blocks(value) : assigned_blocks(value))
-            << field.setter_name << " over a like value";
+        const auto set = [&] { (target.*field.set)(value); };
+        expect_blocks(blocks_taken_by(set), takes_a_copy(field.set) ? held : assigned,
+                      field.setter_name, " over a like value");
 
         if constexpr (is_optional<value_type>) {
             (target.*field.set)(value_type());
-            EXPECT_EQ(blocks_taken_by([&] { (target.*field.set)(value); }), held_blocks(value))
-                << field.setter_name << " where it was absent";
+            expect_blocks(blocks_taken_by(set), held, field.setter_name, " where it was absent");
         }
         if constexpr (lazy_group<Class> && !group<value_type>) {
-            Class empty;
-            std::size_t record = 1; // with what stands in it before any field is set
-            for_each_field<Class>([&](const auto& other, std::size_t) {
-                record += held_blocks((empty.*other.get)());
-            });
-            EXPECT_EQ(blocks_taken_by([&] { (empty.*field.set)(value); }),
-                      record + held_blocks(value))
-                << field.setter_name << " as the first";
+            target = Class();
+            expect_blocks(blocks_taken_by(set), blocks_of_a_record<Class>() + held,
+                          field.setter_name, " as the first");
         }
     });
 }
@@ -151,7 +159,7 @@ template <class Value> std::size_t check_operations(const Value& value) {
         check_whole(value);
         check_accessors(value);
     }
-    return sum_below(value, [](const auto& below) { return check_operations(below); });
+    return sum_below<std::size_t>(value, [](const auto& below) { return check_operations(below); });
 }
 
 // Catches a record, a text or a list that is copied twice, a getter or setter that goes through a

@@ -9,6 +9,7 @@
 #include <regex>
 #include <sstream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace kivo::tests {
@@ -48,9 +49,7 @@ TEST(records, hold_the_fields_in_the_order_of_the_tests) {
     std::size_t classes = 0;
     for_each_class<nota_fiscal>([&]<class Class>(std::type_identity<Class>) {
         const std::string name(erp::v12::layout::detail::type_name<Class>());
-        std::vector<std::string> getters;
-        for_each_field<Class>(
-            [&](const auto& field, std::size_t) { getters.emplace_back(field.getter_name); });
+        const std::vector<std::string_view> getters = of_class<Class>::getter_names();
         const std::vector<std::size_t> order = fields_in_record_order<Class>();
         std::size_t next = 0;
         for (const std::string& field : fields_of_the_source(name)) {

@@ -402,7 +402,7 @@ class Worker:
                 "INSTANTIATE_TYPED_TEST_SUITE_P(one, every_failure, one);\n}\n")
             if found := self.found_by_new("class_suites", [
                     self.folder / "suites.cpp", tests / "support/allocations.cpp",
-                    tests / "support/tried.cpp"]):
+                    tests / "support/failures.cpp", tests / "support/tried.cpp"]):
                 return found
             if not self.run(tests / "abi/abi.sh", "compare",
                             self.folder / "libkivo-erp-fiscal.so.12"):

@@ -12,6 +12,7 @@ namespace kivo::tests {
 class failing_operation {
 public:
     using failure = counting::failure;
+    using evidence_type = std::vector<counting::event>;
     static constexpr const char* name = "failing operations of base values";
     static std::size_t live() { return counting::live; }
 
@@ -29,7 +30,7 @@ public:
     }
     bool was_reached() const { return reached_; }
     std::size_t steps() const { return log_.size(); }
-    const std::vector<counting::event>& evidence() const { return log_; }
+    const evidence_type& evidence() const { return log_; }
 
 private:
     std::vector<counting::event> log_;

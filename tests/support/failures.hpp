@@ -2,15 +2,14 @@
 
 #include "allocations.hpp"
 #include "child.hpp"
-#include "tried.hpp"
 
 #include <gtest/gtest.h>
 
 #include <cstddef>
-#include <cstdlib>
 #include <limits>
 #include <new>
 #include <optional>
+#include <string>
 
 /// Whatever may fail in an operation fails once.
 namespace kivo::tests {
@@ -22,21 +21,55 @@ enum class promise {
     either, ///< ends in a copy that may not fail, propagates elsewhere
 };
 
+/// A function that outlives the call it is handed to; unlike that of std::function, its kind costs
+/// the compiler next to nothing.
+template <class Signature> class reference_to;
+template <class Result, class... Arguments> class reference_to<Result(Arguments...)> {
+public:
+    template <class Function>
+    reference_to(const Function& function) // NOLINT(google-explicit-constructor)
+        : function_(&function), call_([](const void* called, Arguments... arguments) -> Result {
+              return (*static_cast<const Function*>(called))(arguments...);
+          }) {}
+
+    Result operator()(Arguments... arguments) const { return call_(function_, arguments...); }
+
+private:
+    const void* function_;
+    Result (*call_)(const void*, Arguments...);
+};
+
+/// Goes on with `attempt(0)`, `attempt(1)`, ... until it comes through: how many of so many steps
+/// are let through before one fails. What may end the process runs in a child.
+void fail_each_step(promise promised, const std::string& name, std::size_t steps,
+                    reference_to<outcome(std::size_t)> attempt);
+
 /// Runs an operation again and again while its first, second, ... step of one sort fails, until it
 /// comes through. A failure that reaches the caller may lose nothing. `prepare` makes what the
 /// operation works on; `check` sees what a failure left of it, and the evidence.
 ///
 /// A trial lets so many steps through while it goes on. Its class names what is thrown and what is
 /// counted; it tells what is live, whether the failure was reached, how many steps there were, and
-/// what a check may want to know.
-template <class Trial, class Prepare, class Operation, class Check>
-void fail_each(promise promised, Prepare prepare, Operation operation, Check check) {
-    const auto attempt = [&](std::size_t allowed) {
+/// what a check may want to know. `how` is what it wants to know itself.
+template <class Trial, class Object, class... How>
+void fail_each_of(promise promised, reference_to<Object()> prepare,
+                  reference_to<void(Object&)> operation,
+                  reference_to<void(Object&, const typename Trial::evidence_type&)> check,
+                  How... how) {
+    std::size_t steps = 0;
+    {
+        auto object = prepare();
+        Trial whole(std::numeric_limits<std::size_t>::max(), how...);
+        operation(object);
+        whole.end();
+        steps = whole.steps();
+    }
+    fail_each_step(promised, Trial::name, steps, [&](std::size_t allowed) {
         const std::size_t start = Trial::live();
         auto result = outcome::came_through;
         {
             auto object = prepare();
-            Trial trial(allowed);
+            Trial trial(allowed, how...);
             try {
                 operation(object);
             } catch (const typename Trial::failure&) {
@@ -50,38 +83,27 @@ void fail_each(promise promised, Prepare prepare, Operation operation, Check che
         }
         EXPECT_EQ(Trial::live(), start) << "failure " << allowed;
         return result;
-    };
-    auto object = prepare();
-    Trial whole(std::numeric_limits<std::size_t>::max());
-    operation(object);
-    whole.end();
-    // a child takes its time, and in a large class most points are of one kind: unless all are
-    // asked for, some of them stand for the rest
-    const bool all =
-        promised == promise::propagates || std::getenv("KIVO_EVERY_FAILURE") != nullptr;
-    const std::size_t step = all ? 1 : whole.steps() / 100 + 1;
-    auto result = outcome::propagated;
-    for (std::size_t allowed = 0; result != outcome::came_through && !::testing::Test::HasFailure();
-         allowed += step) {
-        if (promised == promise::propagates) {
-            result = attempt(allowed);
-        } else {
-            result = in_child([&] { return attempt(allowed); });
-            EXPECT_FALSE(promised == promise::ends && result == outcome::propagated) << allowed;
-        }
-        tried(Trial::name) += result == outcome::came_through ? 0 : 1;
-    }
+    });
+}
+
+/// The same, of functions that need not be alike: the compiler goes through it once for all that
+/// work on the same.
+template <class Trial, class Prepare, class Operation, class Check, class... How>
+void fail_each(promise promised, const Prepare& prepare, const Operation& operation,
+               const Check& check, How... how) {
+    fail_each_of<Trial, decltype(prepare())>(promised, prepare, operation, check, how...);
 }
 
 /// An allocation that fails, alone or with all that follow. The evidence is how many blocks were
 /// live before the operation.
-template <allocation_limit::failing kind> class failing_allocation {
+class failing_allocation {
 public:
     using failure = std::bad_alloc;
+    using evidence_type = std::size_t;
     static constexpr const char* name = "failing allocations";
     static std::size_t live() { return live_blocks(); }
 
-    explicit failing_allocation(std::size_t allowed)
+    failing_allocation(std::size_t allowed, allocation_limit::failing kind)
         : before_(live_blocks()), taken_(taken_blocks()) {
         limit_.emplace(allowed, kind);
     }
@@ -102,10 +124,12 @@ private:
 };
 
 template <class Prepare, class Operation, class Check>
-void fail_each_allocation(promise promised, Prepare prepare, Operation operation, Check check) {
-    using failing = allocation_limit::failing;
-    fail_each<failing_allocation<failing::once>>(promised, prepare, operation, check);
-    fail_each<failing_allocation<failing::from_then_on>>(promised, prepare, operation, check);
+void fail_each_allocation(promise promised, const Prepare& prepare, const Operation& operation,
+                          const Check& check) {
+    for (const auto kind :
+         {allocation_limit::failing::once, allocation_limit::failing::from_then_on}) {
+        fail_each<failing_allocation>(promised, prepare, operation, check, kind);
+    }
 }
 
 } // namespace kivo::tests

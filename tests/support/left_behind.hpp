@@ -27,6 +27,12 @@ private:
     Class old_;
 };
 
+/// What is wrong with objects after failures. It reaches all that stands in them: where a program
+/// has several sources, one of them compiles it (see elsewhere.hpp).
+template <class Class> struct faults_of {
+    static std::string of_change(const Class& found, const Class& old, const Class& fresh);
+};
+
 namespace detail {
 
 template <class Value>
@@ -62,24 +68,6 @@ private:
     bool hidden_ = false; // the failure may be in a value that shows none
 };
 
-template <class Class>
-std::string fault_of_change(const Class& found, const Class& old, const Class& fresh) {
-    order_of_change order;
-    std::string result;
-    for (const std::size_t place : fields_in_record_order<Class>()) {
-        for_each_field<Class>([&](const auto& field, std::size_t index) {
-            if (index == place) {
-                const std::string fault =
-                    order.fault_of((found.*field.get)(), (old.*field.get)(), (fresh.*field.get)());
-                if (!fault.empty()) {
-                    result += '\n' + std::string(field.getter_name) + ": " + fault;
-                }
-            }
-        });
-    }
-    return result;
-}
-
 /// What is wrong with a value whose own change failed: in part, it may be new already.
 template <class Value>
 std::string fault_between(const Value& found, const Value& old, const Value& fresh) {
@@ -114,19 +102,37 @@ std::string fault_between(const Value& found, const Value& old, const Value& fre
                 found);
         }
     } else if constexpr (erp::v12::layout::group<Value> && !lazy<Value>) {
-        return fault_of_change(found, old, fresh);
+        return faults_of<Value>::of_change(found, old, fresh);
     }
     return "neither old nor new: " + difference(text(found), text(fresh));
 }
 
 } // namespace detail
 
+template <class Class>
+std::string faults_of<Class>::of_change(const Class& found, const Class& old, const Class& fresh) {
+    detail::order_of_change order;
+    std::string result;
+    for (const std::size_t place : fields_in_record_order<Class>()) {
+        for_each_field<Class>([&](const auto& field, std::size_t index) {
+            if (index == place) {
+                const std::string fault =
+                    order.fault_of((found.*field.get)(), (old.*field.get)(), (fresh.*field.get)());
+                if (!fault.empty()) {
+                    result += '\n' + std::string(field.getter_name) + ": " + fault;
+                }
+            }
+        });
+    }
+    return result;
+}
+
 /// Fields that come first in the record are new, those behind the failure old.
 template <class Class> class new_then_old {
 public:
     new_then_old(Class old, Class fresh) : old_(std::move(old)), fresh_(std::move(fresh)) {}
     template <class Evidence> void operator()(const Class& found, const Evidence&) const {
-        EXPECT_EQ(detail::fault_of_change(found, old_, fresh_), "");
+        EXPECT_EQ(faults_of<Class>::of_change(found, old_, fresh_), "");
     }
 
 private:

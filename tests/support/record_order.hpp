@@ -3,6 +3,7 @@
 #include "samples.hpp"
 
 #include <cstddef>
+#include <numeric>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -127,21 +128,28 @@ constexpr bool reaches(std::string_view getter, std::string_view field) {
     return getter == field || (of_a_kind && field == "produto_especifico");
 }
 
-/// The indices of `for_each_field`, in record order.
-template <class Class> std::vector<std::size_t> fields_in_record_order() {
+/// The indices of getters, in the order of these fields; without any, in their own.
+inline std::vector<std::size_t> in_order(const std::vector<std::string_view>& getters,
+                                         std::string_view fields) {
     std::vector<std::size_t> result;
-    std::istringstream names{std::string(detail::record_order<Class>)};
+    std::istringstream names{std::string(fields)};
     for (std::string name; names >> name;) {
-        for_each_field<Class>([&](const auto& field, std::size_t index) {
-            if (reaches(field.getter_name, name)) {
+        for (std::size_t index = 0; index < getters.size(); ++index) {
+            if (reaches(getters[index], name)) {
                 result.push_back(index);
             }
-        });
+        }
     }
     if (result.empty()) {
-        for_each_field<Class>([&](const auto&, std::size_t index) { result.push_back(index); });
+        result.resize(getters.size());
+        std::iota(result.begin(), result.end(), std::size_t(0));
     }
     return result;
+}
+
+/// The indices of `for_each_field`, in record order.
+template <class Class> std::vector<std::size_t> fields_in_record_order() {
+    return in_order(of_class<Class>::getter_names(), detail::record_order<Class>);
 }
 
 } // namespace kivo::tests

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace kivo::tests {
@@ -26,20 +27,26 @@ inline std::string difference(const std::string& found, const std::string& expec
     return part_from(found, place) + " instead of " + part_from(expected, place);
 }
 
+/// Whether texts are these; if not, it names those that differ.
+inline ::testing::AssertionResult same_texts(const std::vector<std::string_view>& names,
+                                             const std::vector<std::string>& found,
+                                             const std::vector<std::string>& expected) {
+    ::testing::AssertionResult result = ::testing::AssertionSuccess();
+    for (std::size_t index = 0; index < names.size(); ++index) {
+        if (found[index] != expected[index]) {
+            result = ::testing::AssertionFailure()
+                     << result.message() << '\n'
+                     << names[index] << ": " << difference(found[index], expected[index]);
+        }
+    }
+    return result;
+}
+
 /// Whether the texts of an object's fields are these; if not, it names the fields that differ.
 template <class Class>
 ::testing::AssertionResult same_fields(const Class& object,
                                        const std::vector<std::string>& expected) {
-    ::testing::AssertionResult result = ::testing::AssertionSuccess();
-    for_each_field<Class>([&](const auto& field, std::size_t index) {
-        const std::string found = text((object.*field.get)());
-        if (found != expected[index]) {
-            result = ::testing::AssertionFailure()
-                     << result.message() << '\n'
-                     << field.getter_name << ": " << difference(found, expected[index]);
-        }
-    });
-    return result;
+    return same_texts(of_class<Class>::getter_names(), texts(object), expected);
 }
 
 template <erp::v12::layout::group Class>

@@ -7,6 +7,7 @@
 #include <concepts>
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <type_traits>
 #include <utility>
 #include <variant>
@@ -23,6 +24,14 @@ using erp::v12::layout::is_variant;
 template <class Accessor, class> using value_of = typename Accessor::value_type;
 
 template <class Value> Value sample(std::size_t number);
+
+/// What the tests do with every class. It reaches all that stands in an object: where a program has
+/// several sources, one of them compiles it (see elsewhere.hpp).
+template <class Class> struct of_class {
+    static Class sample(std::size_t number);
+    static std::vector<std::string> texts(const Class& object);
+    static std::vector<std::string_view> getter_names();
+};
 
 namespace detail {
 
@@ -56,12 +65,7 @@ template <class Value> Value sample(std::size_t number) {
     } else if constexpr (is_variant<Value>) {
         return detail::sample_variant<Value>(number);
     } else if constexpr (erp::v12::layout::group<Value>) {
-        Value result;
-        for_each_field<Value>([&](const auto& field, std::size_t index) {
-            using value = value_of<std::remove_cvref_t<decltype(field)>, Value>;
-            (result.*field.set)(sample<value>(number * 64 + index));
-        });
-        return result;
+        return of_class<Value>::sample(number);
     } else if constexpr (std::same_as<Value, std::string>) {
         // the texts of one object differ in length too: their blocks tell them apart
         return "text " + std::to_string(number) + ", too long to stand in the string itself" +
@@ -83,7 +87,9 @@ template <class Class, class Accessor> auto sample_for(std::size_t index, std::s
 }
 
 /// The texts of all fields of an object, in the order of `for_each_field`.
-template <class Class> std::vector<std::string> texts(const Class& object);
+template <class Class> std::vector<std::string> texts(const Class& object) {
+    return of_class<Class>::texts(object);
+}
 
 /// A text that tells a value from every other of its type.
 template <class Value> std::string text(const Value& value) {
@@ -120,10 +126,26 @@ template <class Value> std::string text(const Value& value) {
     }
 }
 
-template <class Class> std::vector<std::string> texts(const Class& object) {
+template <class Class> Class of_class<Class>::sample(std::size_t number) {
+    Class result;
+    for_each_field<Class>([&](const auto& field, std::size_t index) {
+        using value = value_of<std::remove_cvref_t<decltype(field)>, Class>;
+        (result.*field.set)(tests::sample<value>(number * 64 + index));
+    });
+    return result;
+}
+
+template <class Class> std::vector<std::string> of_class<Class>::texts(const Class& object) {
     std::vector<std::string> result;
     for_each_field<Class>(
         [&](const auto& field, std::size_t) { result.push_back(text((object.*field.get)())); });
+    return result;
+}
+
+template <class Class> std::vector<std::string_view> of_class<Class>::getter_names() {
+    std::vector<std::string_view> result;
+    for_each_field<Class>(
+        [&](const auto& field, std::size_t) { result.push_back(field.getter_name); });
     return result;
 }
 
