@@ -61,13 +61,19 @@ class Platform:
     unpacked: list = dataclasses.field(default_factory=list)
     built: list = dataclasses.field(default_factory=list)
     type: str = 'RelWithDebInfo'
-    flags: str = '-O1'
+    flags: str = '-O3 -DNDEBUG'  # as users get it
     options: list = dataclasses.field(default_factory=list)
     environment: dict = dataclasses.field(default_factory=dict)
     skipped: dict = dataclasses.field(default_factory=dict)  # tests of ctest: the reason
     left_out: dict = dataclasses.field(default_factory=dict)  # cases of a program: the reason
     shortened: dict = dataclasses.field(default_factory=dict)  # by the environment: how
-    packed: tuple = ()  # its packages are made too: `zip`, or the compiler and what runs a program
+    # its packages are made too, of what was tested: `zip`, or the compiler and what runs a program
+    packed: tuple = ()
+    by_name: bool = False  # left out where all are gone through: another one stands for it
+
+    def has_packages(self):
+        """Whether they are Debian's."""
+        return len(self.packed) == 2
 
 
 def foreign(name, what, triplet, architecture, **options):
@@ -89,11 +95,11 @@ PLATFORMS = [
     Platform('gcc-hardened', 'amd64, C++23, assertions of libstdc++, _FORTIFY_SOURCE=3', 'g++ 12',
              ['g++-12', *NATIVE], toolchain=False,
              # the tests are compiled without optimisation, which the macro warns of
-             flags='-O1 -Wno-cpp -D_GLIBCXX_ASSERTIONS -D_FORTIFY_SOURCE=3',
+             flags='-O3 -DNDEBUG -Wno-cpp -D_GLIBCXX_ASSERTIONS -D_FORTIFY_SOURCE=3',
              options=['-DCMAKE_CXX_COMPILER=g++-12', '-DCMAKE_CXX_STANDARD=23']),
     Platform('clang-19', 'amd64', 'clang 19', ['clang-19', *NATIVE], toolchain=False,
              # it takes what libstdc++ 12 deprecates and uses itself for ours
-             flags='-O1 -Wno-deprecated-declarations',
+             flags='-O3 -DNDEBUG -Wno-deprecated-declarations',
              options=['-DCMAKE_CXX_COMPILER=clang++-19']),
     Platform('libcxx', 'amd64, libc++ 19 with its debug hardening, address and undefined-behaviour '
              'sanitizers', 'clang 19',
@@ -114,7 +120,7 @@ PLATFORMS = [
                       'interface': 'sanitizers add names of their own'}),
     Platform('windows', '64-bit Windows by MinGW-w64, under wine', 'g++ 12 (x86_64-w64-mingw32)',
              ['g++-mingw-w64-x86-64-posix', 'wine64', 'googletest', 'dpkg-dev', 'make', 'unzip'],
-             unpacked=['nlohmann-json3-dev'], built=list(SOURCES),
+             unpacked=['nlohmann-json3-dev'], built=list(SOURCES), type='Release',
              options=['-DKIVO_RANDOM_TESTS=OFF'],
              environment={
                  'LC_ALL': 'C.UTF-8',  # wine writes the names of files in the locale's code
@@ -141,12 +147,16 @@ PLATFORMS = [
             packed=('aarch64-linux-gnu-g++-12', 'qemu-aarch64')),
     foreign('s390x', 'big-endian under qemu', 's390x-linux-gnu', 's390x'),
     foreign('i686', '32 bits under qemu', 'i686-linux-gnu', 'i386'),
-    foreign('armhf', '32-bit ARM under qemu', 'arm-linux-gnueabihf', 'armhf'),
+    foreign('armhf', '32-bit ARM under qemu', 'arm-linux-gnueabihf', 'armhf', by_name=True),
 ]
 
 
+class Failed(Exception):
+    """A platform cannot be gone through."""
+
+
 def run(command, log, **options):
-    """Runs a command into a log; where it fails, the log's end is shown and the run ends."""
+    """Runs a command into a log; where it fails, the log's end is shown."""
     with open(log, 'a', encoding='utf-8') as file:
         file.write(f'$ {" ".join(map(str, command))}\n')
         file.flush()
@@ -155,7 +165,7 @@ def run(command, log, **options):
     if ended.returncode != 0:
         lines = log.read_text(encoding='utf-8', errors='replace').splitlines()
         print('\n'.join(line[:300] for line in lines[-40:]), file=sys.stderr)
-        sys.exit(f'ports: failed, see {log}: {" ".join(map(str, command))[:200]}')
+        raise Failed(f'see {log}: {" ".join(map(str, command))[:200]}')
 
 
 def apt(architecture, log):
@@ -279,6 +289,35 @@ def build_release(platform, build, root, log, target, *settings):
     run(['cmake', '--build', build, '--target', target], log)
 
 
+def libraries_with_controls(platform, log):
+    """The folders of a platform's libraries in packages with their control files, of which each tells
+    who needs what."""
+    controls = WORK / platform.name / 'controls'
+    if not controls.exists():
+        fresh = WORK / platform.name / 'controls.new'
+        shutil.rmtree(fresh, ignore_errors=True)
+        fresh.mkdir()
+        for package in sorted((WORK / platform.name / 'packages').glob('lib*.deb')):
+            run(['dpkg-deb', '--raw-extract', package, fresh / package.stem], log)
+        fresh.rename(controls)
+    return sorted({str(file.parent) for file in controls.rglob('lib*.so.*')})
+
+
+def build_all(platform, build, root, log, environment):
+    """Builds all that is tested and packed."""
+    if platform.has_packages():
+        libraries = ';'.join(libraries_with_controls(platform, log))
+        how = ['--preset', 'package', f'-DKIVO_SHLIBDEPS_DIRS={libraries}']
+    else:
+        how = ['-G', 'Ninja', f'-DCMAKE_BUILD_TYPE={platform.type}',
+               f'-DCMAKE_CXX_FLAGS_{platform.type.upper()}={WARNINGS} {platform.flags}',
+               '-DCMAKE_COMPILE_WARNING_AS_ERROR=ON']
+    parts = [f'-DKIVO_BUILD_{part}=ON' for part in ('LAYOUT', 'TOOLS', 'EXAMPLES', 'TESTS')]
+    run(['cmake', '-S', SOURCE, '-B', build, *how, *parts, *platform.options,
+         *toolchain(platform, root)], log, env=environment)
+    run(['cmake', '--build', build], log, env=environment)
+
+
 def cases(file):
     """The cases of a GoogleTest program that ran: passed, failed and skipped by themselves."""
     passed = failed = skipped = 0
@@ -292,20 +331,20 @@ def cases(file):
     return passed, failed, skipped
 
 
-def test(platform, build, log):
+def test(platform, build, log, environment):
     """Runs the tests; answers how many passed, failed and skipped themselves, and what failed."""
     results = build / 'cases'
     shutil.rmtree(results, ignore_errors=True)
     # from the folder in which the programs run: to those of Windows no absolute name begins with a slash
-    environment = dict(os.environ, GTEST_OUTPUT=f'xml:{results.relative_to(SOURCE)}/')
+    environment = dict(environment, GTEST_OUTPUT=f'xml:{results.relative_to(SOURCE)}/')
     if platform.left_out:
         environment['GTEST_FILTER'] = '-' + ':'.join(platform.left_out)
+    left_out = '|'.join((*ELSEWHERE, *platform.skipped))
     with open(log, 'a', encoding='utf-8') as file:
         subprocess.run(
             ['ctest', '--test-dir', build, '--output-on-failure', '--no-tests=error',
              '--parallel', str(os.cpu_count()), '--timeout', '3600',
-             '--output-junit', build / 'tests.xml',
-             *(['--exclude-regex', f'^({"|".join(platform.skipped)})$'] if platform.skipped else [])],
+             '--output-junit', build / 'tests.xml', '--exclude-regex', f'^({left_out})$'],
             stdout=file, stderr=subprocess.STDOUT, env=environment, check=False)
     sums = [0, 0, 0]
     failing = []
@@ -321,11 +360,9 @@ def test(platform, build, log):
     return (*sums, failing)
 
 
-def size(platform, root, log):
-    """The bytes of the library as users get it, without what is for debuggers."""
-    if platform.packed:
-        build = WORK / platform.name / 'package'
-    else:
+def size(platform, build, root, log):
+    """The bytes of the library without what is for debuggers."""
+    if platform.type == 'Debug':  # which no user gets
         build = WORK / platform.name / 'release'
         build_release(platform, build, root, log, 'kivo-erp-fiscal')
     installed = build / 'installed'
@@ -335,73 +372,48 @@ def size(platform, root, log):
     return library.stat().st_size
 
 
-def pack_zip(platform, root, log):
-    """Makes the zip as users get it, and tries it."""
-    build = WORK / platform.name / 'package'
-    run(['cmake', '-S', SOURCE, '-B', build, '-G', 'Ninja', '-DCMAKE_BUILD_TYPE=Release',
-         '-DKIVO_BUILD_LAYOUT=ON', '-DKIVO_BUILD_TOOLS=ON', *toolchain(platform, root)], log)
-    run(['cmake', '--build', build], log)
-    run([SOURCE / 'tests' / 'zip.sh', SOURCE, build, root], log)
-
-
-def pack(platform, root, log):
-    """Makes a platform's packages as users get them, and tries them."""
-    if platform.packed == ('zip',):
-        pack_zip(platform, root, log)
+def pack(platform, build, root, log, environment):
+    """Makes a platform's packages, and tries them."""
+    if not platform.has_packages():
+        run([SOURCE / 'tests' / 'zip.sh', SOURCE, build, root], log, env=environment)
         return
-    folder = WORK / platform.name
-    controls = folder / 'controls'  # the packages that ours need: each tells of its libraries
-    if not controls.exists():
-        fresh = folder / 'controls.new'
-        shutil.rmtree(fresh, ignore_errors=True)
-        fresh.mkdir()
-        for package in sorted((folder / 'packages').glob('lib*.deb')):
-            run(['dpkg-deb', '--raw-extract', package, fresh / package.stem], log)
-        fresh.rename(controls)
-    libraries = sorted({str(file.parent) for file in controls.rglob('lib*.so.*')})
-    build = folder / 'package'
-    run(['cmake', '--preset', 'package', '-B', build, f'-DKIVO_SHLIBDEPS_DIRS={";".join(libraries)}',
-         *toolchain(platform, root)], log, cwd=SOURCE)
-    run(['cmake', '--build', build], log)
     for package in build.glob('*.deb'):
         package.unlink()
     run(['cpack', '--config', build / 'CPackConfig.cmake', '-B', build], log, cwd=build)
     compiler, emulator = platform.packed
     run([SOURCE / 'tests' / 'package.sh', SOURCE, build, compiler], log,
-        env=dict(os.environ, EMULATOR=emulator))
+        env=dict(environment, EMULATOR=emulator))
 
 
 def go_through(platform):
-    """Builds and tests one platform; answers its row of the table."""
+    """Builds and tests one platform; answers its row of the table, or none where that fails."""
     start = time.monotonic()
     folder = WORK / platform.name
     folder.mkdir(parents=True, exist_ok=True)
     log = folder / 'log'
     log.unlink(missing_ok=True)
     print(f'== {platform.name}: {platform.what}; {log}', flush=True)
-    root = prepare(platform, log)
+    environment = dict(os.environ, CMAKE_CXX_COMPILER_LAUNCHER='ccache', CCACHE_BASEDIR=str(SOURCE),
+                       CCACHE_NOHASHDIR='1', CCACHE_SLOPPINESS='pch_defines,time_macros',
+                       **platform.environment)
     build = folder / 'build'
-    of_machine = dict(os.environ)
-    os.environ.update(CMAKE_CXX_COMPILER_LAUNCHER='ccache', CCACHE_BASEDIR=str(SOURCE),
-                      CCACHE_NOHASHDIR='1', **platform.environment)
-    run(['cmake', '-S', SOURCE, '-B', build, '-G', 'Ninja', f'-DCMAKE_BUILD_TYPE={platform.type}',
-         '-DKIVO_BUILD_LAYOUT=ON', '-DKIVO_BUILD_TOOLS=ON', '-DKIVO_BUILD_EXAMPLES=ON',
-         '-DKIVO_BUILD_TESTS=ON', f'-DCMAKE_CXX_FLAGS_{platform.type.upper()}={WARNINGS} {platform.flags}',
-         '-DCMAKE_COMPILE_WARNING_AS_ERROR=ON', *platform.options, *toolchain(platform, root)], log)
-    run(['cmake', '--build', build], log)
-    built = time.monotonic()
-    passed, failed, themselves, failing = test(platform, build, log)
-    if platform.packed:
-        pack(platform, root, log)
-    bytes_of_library = size(platform, root, log)
+    try:
+        root = prepare(platform, log)
+        build_all(platform, build, root, log, environment)
+        built = time.monotonic()
+        passed, failed, themselves, failing = test(platform, build, log, environment)
+        if platform.packed:
+            pack(platform, build, root, log, environment)
+        bytes_of_library = size(platform, build, root, log)
+    except Failed as failure:
+        print(f'   failed: {failure}', flush=True)
+        return None
     end = time.monotonic()
     row = {'platform': platform.name, 'what': platform.what, 'compiler': platform.compiler,
            'passed': passed, 'failed': failed,
            'skipped': {**ELSEWHERE, **platform.skipped, **platform.left_out, **platform.shortened},
            'themselves': themselves, 'failing': failing, 'size': bytes_of_library,
            'build': round(built - start), 'test': round(end - built)}
-    os.environ.clear()
-    os.environ.update(of_machine)
     (folder / 'row.json').write_text(json.dumps(row, indent=1))
     for name in failing:
         print(f'   failed: {name}', flush=True)
@@ -459,22 +471,28 @@ def table(rows):
 
 
 def main():
+    start = time.monotonic()
     command, *names = sys.argv[1:] or ['']
     known = {platform.name: platform for platform in PLATFORMS}
     unknown = [name for name in names if name not in known]
     if command not in ('packages', 'run', 'compare') or unknown:
         sys.exit(f'ports: no {" ".join(unknown) or command or "command"}; '
                  f'platforms are {" ".join(known)}')
-    chosen = [known[name] for name in names] or PLATFORMS
+    chosen = [known[name] for name in names] or [each for each in PLATFORMS if not each.by_name]
     if command == 'packages':
         print(*sorted({*ALWAYS, *(package for platform in chosen for package in platform.packages)}))
         return
     if command == 'compare':
-        compare()
+        try:
+            compare()
+        except Failed as failure:
+            sys.exit(f'ports: failed: {failure}')
         return
     rows = [go_through(platform) for platform in chosen]
-    print(table(rows))
-    sys.exit(any(row['failed'] or row['failing'] for row in rows))
+    print(table(filter(None, rows)))
+    minutes = (time.monotonic() - start) / 60
+    print(f'{len(rows)} platforms in {minutes:.0f} minutes on {os.cpu_count()} processors')
+    sys.exit(any(row is None or row['failed'] or row['failing'] for row in rows))
 
 
 if __name__ == '__main__':
