@@ -75,7 +75,7 @@ std::string plain(const optional<fiscal::decimal>& value) { return value ? plain
 std::string quantity(const fiscal::decimal& value) { return amount(value, 0); }
 
 void decimal_sum::add(const fiscal::decimal& value) {
-    const std::string text = layout::text_of(value).value_or("");
+    const std::string text = plain(value);
     const std::size_t point = std::min(text.find('.'), text.size());
     std::string digits = text.substr(0, point);
     std::string decimals = text.substr(std::min(point + 1, text.size()));
