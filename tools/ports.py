@@ -86,8 +86,8 @@ def foreign(name, what, triplet, architecture, **options):
     return Platform(
         name, what, f'g++ 12 ({triplet})', packages, architecture=architecture,
         unpacked=DEPENDENCIES, skipped=skipped,
-        environment={'KIVO_ONE_DOCUMENT_OF': '5'},
-        shortened={'document_round_trip_tests': 'one document of 5, all take an emulator too long'},
+        environment={'KIVO_ONE_DOCUMENT_OF': '20'},
+        shortened={'document_round_trip_tests': 'one document of 20, all take an emulator too long'},
         **options)
 
 
