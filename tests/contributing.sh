@@ -27,7 +27,7 @@ quietly cmake --build build --target facts {invoice,layout,tool}_tests nfe_summa
 "$compiler" -std=c++20 -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror \
     -I. -Itests -Itests/support build/tests/every_class_transport.cpp \
     build/tests/every_failure_transport.cpp tests/contributing.cpp \
-    tests/support/allocations.cpp tests/support/tried.cpp \
+    tests/support/{allocations,failures,tried}.cpp \
     -Lbuild/layout -lkivo-erp-fiscal-layout -Lbuild/fiscal -lkivo-erp-fiscal \
     "-Wl,-rpath,$PWD/build/fiscal" -lpugixml -lgtest -lgtest_main -o tests_of_examples
 ./tests_of_examples --gtest_brief=1
