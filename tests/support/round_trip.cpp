@@ -210,9 +210,9 @@ private:
                 last = position;
                 continue;
             }
-            const auto passed = [&, position = position, element = element](const auto& other) {
+            const auto passed = [&, place = position, own = element](const auto& other) {
                 return !other.second->moved &&
-                       (other.second < element ? other.first > position : other.first < position);
+                       (other.second < own ? other.first > place : other.first < place);
             };
             if (std::none_of(known.begin(), known.end(), passed)) {
                 faults_.push_back(rule.path() + ": an element is told to move, and does not");
