@@ -309,7 +309,9 @@ def build_all(platform, build, root, log, environment):
     """Builds all that is tested and packed."""
     if platform.has_packages():
         libraries = ';'.join(libraries_with_controls(platform, log))
-        how = ['--preset', 'package', f'-DKIVO_SHLIBDEPS_DIRS={libraries}']
+        how = ['--preset', 'package', f'-DKIVO_SHLIBDEPS_DIRS={libraries}',
+               # in the place of the preset's: CMake forgets all when it finds another in its cache
+               f'-DCMAKE_CXX_COMPILER={platform.packed[0]}']
     else:
         how = ['-G', 'Ninja', f'-DCMAKE_BUILD_TYPE={platform.type}',
                f'-DCMAKE_CXX_FLAGS_{platform.type.upper()}={WARNINGS} {platform.flags}',
