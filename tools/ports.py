@@ -284,11 +284,11 @@ def prepare(platform, log):
     return root
 
 
-def build_release(platform, build, root, log, target, *settings):
+def build_release(platform, build, root, log, target, *settings, environment=None):
     """Builds a target as users get it."""
     run(['cmake', '-S', SOURCE, '-B', build, '-G', 'Ninja', '-DCMAKE_BUILD_TYPE=Release', *settings,
-         *platform.options, *toolchain(platform, root)], log)
-    run(['cmake', '--build', build, '--target', target], log)
+         *platform.options, *toolchain(platform, root)], log, env=environment)
+    run(['cmake', '--build', build, '--target', target], log, env=environment)
 
 
 def libraries_with_controls(platform, log):
@@ -364,11 +364,11 @@ def test(platform, build, log, environment):
     return (*sums, failing)
 
 
-def size(platform, build, root, log):
+def size(platform, build, root, log, environment):
     """The bytes of the library as users get it, without what is for debuggers."""
     if not platform.packed:
         build = WORK / platform.name / 'release'
-        build_release(platform, build, root, log, 'kivo-erp-fiscal')
+        build_release(platform, build, root, log, 'kivo-erp-fiscal', environment=environment)
     installed = build / 'installed'
     run(['cmake', '--install', build, '--component', 'runtime', '--strip', '--prefix', installed], log)
     [library] = (file for pattern in ('lib/**/*.so.12.*', 'bin/*-12.dll')
@@ -408,7 +408,7 @@ def go_through(platform):
         passed, failed, themselves, failing = test(platform, build, log, environment)
         if platform.packed:
             pack(platform, build, root, log, environment)
-        bytes_of_library = size(platform, build, root, log)
+        bytes_of_library = size(platform, build, root, log, environment)
     except Failed as failure:
         print(f'   failed: {failure}', flush=True)
         return None
