@@ -92,33 +92,11 @@ def foreign(name, what, triplet, architecture, **options):
 
 
 PLATFORMS = [
-    Platform('gcc-hardened', 'amd64, C++23, assertions of libstdc++, _FORTIFY_SOURCE=3', 'g++ 12',
-             ['g++-12', *NATIVE], toolchain=False,
-             # the tests are compiled without optimisation, which the macro warns of
-             flags='-O1 -Wno-cpp -D_GLIBCXX_ASSERTIONS -D_FORTIFY_SOURCE=3',
-             options=['-DCMAKE_CXX_COMPILER=g++-12', '-DCMAKE_CXX_STANDARD=23']),
-    Platform('clang-19', 'amd64', 'clang 19', ['clang-19', *NATIVE], toolchain=False,
-             # it takes what libstdc++ 12 deprecates and uses itself for ours
-             flags='-O1 -Wno-deprecated-declarations',
-             options=['-DCMAKE_CXX_COMPILER=clang++-19']),
-    Platform('libcxx', 'amd64, libc++ 19 with its debug hardening, address and undefined-behaviour '
-             'sanitizers', 'clang 19',
-             ['clang-19', 'libclang-rt-19-dev', 'googletest', 'libutf8proc-dev', 'libzint-dev',
-              'dpkg-dev'],
-             unpacked=['libc++-19-dev', 'libc++1-19', 'libc++abi-19-dev', 'libc++abi1-19',
-                       'libunwind-19', 'libunwind-19-dev'],
-             built=['googletest', 'pugixml', 'fmtlib'],
-             type='Debug',
-             # std::jthread is still an experiment there
-             flags='-O1 -g -fexperimental-library -fsanitize=address,undefined -fno-sanitize-recover=all',
-             # behind a precompiled header, this compiler takes va_list for two types
-             options=['-DKIVO_RANDOM_TESTS=OFF', '-DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON', *(
-                 # the library has what the sanitizers call when it is linked
-                 f'-DCMAKE_{kind}_LINKER_FLAGS_DEBUG=-shared-libsan '
-                 '-Wl,-rpath,/usr/lib/llvm-19/lib/clang/19/lib/linux' for kind in ('EXE', 'SHARED'))],
-             skipped={'random_tests': NO_RAPIDCHECK, 'document_round_trip_tests': NO_RAPIDCHECK,
-                      'gdb': 'the printers know what is in texts and lists of the GNU library alone',
-                      'interface': 'sanitizers add names of their own'}),
+    foreign('arm64', '64-bit ARM under qemu', 'aarch64-linux-gnu', 'arm64',
+            packed=('aarch64-linux-gnu-g++-12', 'qemu-aarch64')),
+    foreign('i686', '32 bits under qemu', 'i686-linux-gnu', 'i386'),
+    foreign('armhf', '32-bit ARM under qemu', 'arm-linux-gnueabihf', 'armhf', by_name=True),
+    foreign('s390x', 'big-endian under qemu', 's390x-linux-gnu', 's390x'),
     Platform('windows', '64-bit Windows by MinGW-w64, under wine', 'g++ 12 (x86_64-w64-mingw32)',
              ['g++-mingw-w64-x86-64-posix', 'wine64', 'googletest', 'dpkg-dev', 'make', 'unzip'],
              unpacked=['nlohmann-json3-dev'], built=list(SOURCES),
@@ -145,11 +123,33 @@ PLATFORMS = [
                                      '*/every_class/*.records_are_released',
                                      'standard_library.keeps_no_room_that_its_callers_reserved'),
                                     OWN_ALLOCATOR)),
-    foreign('arm64', '64-bit ARM under qemu', 'aarch64-linux-gnu', 'arm64',
-            packed=('aarch64-linux-gnu-g++-12', 'qemu-aarch64')),
-    foreign('s390x', 'big-endian under qemu', 's390x-linux-gnu', 's390x'),
-    foreign('i686', '32 bits under qemu', 'i686-linux-gnu', 'i386'),
-    foreign('armhf', '32-bit ARM under qemu', 'arm-linux-gnueabihf', 'armhf', by_name=True),
+    Platform('gcc-hardened', 'amd64, C++23, assertions of libstdc++, _FORTIFY_SOURCE=3', 'g++ 12',
+             ['g++-12', *NATIVE], toolchain=False,
+             # the tests are compiled without optimisation, which the macro warns of
+             flags='-O1 -Wno-cpp -D_GLIBCXX_ASSERTIONS -D_FORTIFY_SOURCE=3',
+             options=['-DCMAKE_CXX_COMPILER=g++-12', '-DCMAKE_CXX_STANDARD=23']),
+    Platform('clang-19', 'amd64', 'clang 19', ['clang-19', *NATIVE], toolchain=False,
+             # it takes what libstdc++ 12 deprecates and uses itself for ours
+             flags='-O1 -Wno-deprecated-declarations',
+             options=['-DCMAKE_CXX_COMPILER=clang++-19']),
+    Platform('libcxx', 'amd64, libc++ 19 with its debug hardening, address and undefined-behaviour '
+             'sanitizers', 'clang 19',
+             ['clang-19', 'libclang-rt-19-dev', 'googletest', 'libutf8proc-dev', 'libzint-dev',
+              'dpkg-dev'],
+             unpacked=['libc++-19-dev', 'libc++1-19', 'libc++abi-19-dev', 'libc++abi1-19',
+                       'libunwind-19', 'libunwind-19-dev'],
+             built=['googletest', 'pugixml', 'fmtlib'],
+             type='Debug',
+             # std::jthread is still an experiment there
+             flags='-O1 -g1 -fexperimental-library -fsanitize=address,undefined -fno-sanitize-recover=all',
+             # behind a precompiled header, this compiler takes va_list for two types
+             options=['-DKIVO_RANDOM_TESTS=OFF', '-DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON', *(
+                 # the library has what the sanitizers call when it is linked
+                 f'-DCMAKE_{kind}_LINKER_FLAGS_DEBUG=-shared-libsan '
+                 '-Wl,-rpath,/usr/lib/llvm-19/lib/clang/19/lib/linux' for kind in ('EXE', 'SHARED'))],
+             skipped={'random_tests': NO_RAPIDCHECK, 'document_round_trip_tests': NO_RAPIDCHECK,
+                      'gdb': 'the printers know what is in texts and lists of the GNU library alone',
+                      'interface': 'sanitizers add names of their own'}),
 ]
 
 
