@@ -3,6 +3,7 @@
 #include "support/failures.hpp"
 #include "support/kinds.hpp"
 #include "support/left_behind.hpp"
+#include "support/reference_to.hpp"
 #include "support/same_fields.hpp"
 #include "support/samples.hpp"
 
@@ -10,6 +11,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <type_traits>
 #include <utility>
 
@@ -79,6 +81,32 @@ template <class Class>
 inline constexpr bool copies_first =
     std::is_same_v<Class, erp::v12::fiscal::tributavel_imposto_seletivo>;
 
+/// A setter that fails on a new object leaves it without a record, or with one of defaults.
+template <class Class>
+void expect_nothing_or_defaults(promise promised, std::string_view setter,
+                                reference_to<void(Class&)> set_default,
+                                reference_to<void(Class&)> set) {
+    std::size_t of_a_record = 0; // blocks
+    {
+        const std::size_t before = live_blocks();
+        Class made;
+        set_default(made);
+        of_a_record = live_blocks() - before;
+    }
+    std::size_t start = 0;
+    fail_each_allocation(
+        promised, [] { return Class(); },
+        [&](Class& object) {
+            start = taken_blocks();
+            set(object);
+        },
+        [&](const Class& object, std::size_t before) {
+            const bool made = !copies_first<Class> && taken_blocks() - start >= of_a_record;
+            EXPECT_EQ(live_blocks() - before, made ? of_a_record : 0) << setter;
+            EXPECT_TRUE(same_fields(object, Class())) << setter;
+        });
+}
+
 // Catches a first setter that keeps half a record, or takes back a whole one.
 TYPED_TEST_P(every_failure, of_a_first_setter_leaves_nothing_or_defaults) {
     if constexpr (lazy<TypeParam>) {
@@ -86,34 +114,29 @@ TYPED_TEST_P(every_failure, of_a_first_setter_leaves_nothing_or_defaults) {
             using accessor = std::remove_cvref_t<decltype(changed)>;
             using value_type = value_of<accessor, TypeParam>;
             const value_type value = sample_for<TypeParam, accessor>(index, 2);
+            const value_type by_default{};
             const promise promised = noexcept((std::declval<TypeParam&>().*changed.set)(value))
                                          ? promise::ends
                                      : may_end<value_type>::value() ? promise::either
                                                                     : promise::propagates;
-            std::size_t of_a_record = 0; // blocks
-            {
-                const value_type by_default{};
-                const std::size_t before = live_blocks();
-                TypeParam made;
-                (made.*changed.set)(by_default);
-                of_a_record = live_blocks() - before;
-            }
-            std::size_t start = 0;
-            fail_each_allocation(
-                promised, [] { return TypeParam(); },
-                [&](TypeParam& object) {
-                    start = taken_blocks();
-                    (object.*changed.set)(value);
-                },
-                [&](const TypeParam& object, std::size_t before) {
-                    const bool made =
-                        !copies_first<TypeParam> && taken_blocks() - start >= of_a_record;
-                    EXPECT_EQ(live_blocks() - before, made ? of_a_record : 0)
-                        << changed.setter_name;
-                    EXPECT_TRUE(same_fields(object, TypeParam())) << changed.setter_name;
-                });
+            expect_nothing_or_defaults<TypeParam>(
+                promised, changed.setter_name,
+                [&](TypeParam& object) { (object.*changed.set)(by_default); },
+                [&](TypeParam& object) { (object.*changed.set)(value); });
         });
     }
+}
+
+/// A setter that fails on a full object leaves it as it was.
+template <class Class>
+void expect_unchanged(std::string_view setter, reference_to<void(Class&)> set) {
+    const left_unchanged unchanged(sample<Class>(1));
+    fail_each_allocation(
+        promise::propagates, [] { return sample<Class>(1); }, [&](Class& object) { set(object); },
+        [&](const Class& object, std::size_t before) {
+            EXPECT_EQ(live_blocks(), before) << setter;
+            unchanged(object, before);
+        });
 }
 
 // Catches a setter that loses the old value before it has the new one.
@@ -122,14 +145,9 @@ TYPED_TEST_P(every_failure, of_a_setter_leaves_the_field_as_it_was) {
         using value_type = value_of<std::remove_cvref_t<decltype(changed)>, TypeParam>;
         if constexpr (std::is_same_v<value_type, std::string> ||
                       std::is_same_v<value_type, core::v7::optional<std::string>>) {
-            const left_unchanged unchanged(sample<TypeParam>(1));
-            fail_each_allocation(
-                promise::propagates, [] { return sample<TypeParam>(1); },
-                [&](TypeParam& object) { (object.*changed.set)(std::string(1000, 'x')); },
-                [&](const TypeParam& object, std::size_t before) {
-                    EXPECT_EQ(live_blocks(), before) << changed.setter_name;
-                    unchanged(object, before);
-                });
+            expect_unchanged<TypeParam>(changed.setter_name, [&](TypeParam& object) {
+                (object.*changed.set)(std::string(1000, 'x'));
+            });
         }
     });
 }

@@ -2,6 +2,7 @@
 
 #include "allocations.hpp"
 #include "child.hpp"
+#include "reference_to.hpp"
 
 #include <gtest/gtest.h>
 
@@ -19,24 +20,6 @@ enum class promise {
     propagates,
     ends,   ///< the process, by std::terminate
     either, ///< ends in a copy that may not fail, propagates elsewhere
-};
-
-/// A function that outlives the call it is handed to; unlike that of std::function, its kind costs
-/// the compiler next to nothing.
-template <class Signature> class reference_to;
-template <class Result, class... Arguments> class reference_to<Result(Arguments...)> {
-public:
-    template <class Function>
-    reference_to(const Function& function) // NOLINT(google-explicit-constructor)
-        : function_(&function), call_([](const void* called, Arguments... arguments) -> Result {
-              return (*static_cast<const Function*>(called))(arguments...);
-          }) {}
-
-    Result operator()(Arguments... arguments) const { return call_(function_, arguments...); }
-
-private:
-    const void* function_;
-    Result (*call_)(const void*, Arguments...);
 };
 
 /// Goes on with `attempt(0)`, `attempt(1)`, ... until it comes through: how many of so many steps
