@@ -6,6 +6,7 @@
 #include "support/reference_to.hpp"
 #include "support/same_fields.hpp"
 #include "support/samples.hpp"
+#include "support/suites.hpp"
 
 #include <gtest/gtest.h>
 
@@ -18,9 +19,6 @@
 /// Every allocation of every operation fails once.
 namespace kivo::tests {
 
-template <class Class> class every_failure : public ::testing::Test {};
-TYPED_TEST_SUITE_P(every_failure);
-
 /// What a copy of the class promises.
 template <class Class> promise of_copying() {
     return copy_ends<Class>          ? promise::ends
@@ -30,9 +28,9 @@ template <class Class> promise of_copying() {
 
 // Catches a constructor that loses what it built when a later part fails, and a move that takes
 // from its source what it does not need yet.
-TYPED_TEST_P(every_failure, of_construction_leaves_nothing_behind) {
-    const auto source = sample<TypeParam>(1);
-    const auto nowhere = [] { return std::optional<TypeParam>(); };
+template <class Class> void of_construction_leaves_nothing_behind() {
+    const auto source = sample<Class>(1);
+    const auto nowhere = [] { return std::optional<Class>(); };
     const auto nothing_left = [](const auto& target, std::size_t before) {
         EXPECT_FALSE(target.has_value());
         EXPECT_EQ(live_blocks(), before);
@@ -40,12 +38,11 @@ TYPED_TEST_P(every_failure, of_construction_leaves_nothing_behind) {
     fail_each_allocation(
         promise::propagates, nowhere, [](auto& target) { target.emplace(); }, nothing_left);
     fail_each_allocation(
-        of_copying<TypeParam>(), nowhere, [&](auto& target) { target.emplace(source); },
-        nothing_left);
+        of_copying<Class>(), nowhere, [&](auto& target) { target.emplace(source); }, nothing_left);
 
     struct move {
-        TypeParam from;
-        std::optional<TypeParam> to;
+        Class from;
+        std::optional<Class> to;
     };
     fail_each_allocation(
         promise::propagates,
@@ -61,16 +58,16 @@ TYPED_TEST_P(every_failure, of_construction_leaves_nothing_behind) {
 
 // Catches a lazy assignment that touches its target before the copy stands, and an eager one that
 // leaves a value neither old nor new, or walks the record in another order.
-TYPED_TEST_P(every_failure, of_assignment_leaves_a_whole_target) {
-    const auto source = sample<TypeParam>(1);
+template <class Class> void of_assignment_leaves_a_whole_target() {
+    const auto source = sample<Class>(1);
     const auto fresh = texts(source);
-    for (const TypeParam& old : {TypeParam(), sample<TypeParam>(2)}) {
+    for (const Class& old : {Class(), sample<Class>(2)}) {
         const auto check = after_assignment(old, source);
         fail_each_allocation(
-            of_copying<TypeParam>(), [&] { return old; },
-            [&](TypeParam& target) { target = source; }, check);
+            of_copying<Class>(), [&] { return old; }, [&](Class& target) { target = source; },
+            check);
         fail_each_allocation(
-            promise::propagates, [&] { return std::pair<TypeParam, TypeParam>(old, source); },
+            promise::propagates, [&] { return std::pair<Class, Class>(old, source); },
             [](auto& objects) { objects.first = std::move(objects.second); }, of_first(check));
     }
     EXPECT_TRUE(same_fields(source, fresh)) << "the source never changes";
@@ -108,21 +105,21 @@ void expect_nothing_or_defaults(promise promised, std::string_view setter,
 }
 
 // Catches a first setter that keeps half a record, or takes back a whole one.
-TYPED_TEST_P(every_failure, of_a_first_setter_leaves_nothing_or_defaults) {
-    if constexpr (lazy<TypeParam>) {
-        for_each_field<TypeParam>([](const auto& changed, std::size_t index) {
+template <class Class> void of_a_first_setter_leaves_nothing_or_defaults() {
+    if constexpr (lazy<Class>) {
+        for_each_field<Class>([](const auto& changed, std::size_t index) {
             using accessor = std::remove_cvref_t<decltype(changed)>;
-            using value_type = value_of<accessor, TypeParam>;
-            const value_type value = sample_for<TypeParam, accessor>(index, 2);
+            using value_type = value_of<accessor, Class>;
+            const value_type value = sample_for<Class, accessor>(index, 2);
             const value_type by_default{};
-            const promise promised = noexcept((std::declval<TypeParam&>().*changed.set)(value))
+            const promise promised = noexcept((std::declval<Class&>().*changed.set)(value))
                                          ? promise::ends
                                      : may_end<value_type>::value() ? promise::either
                                                                     : promise::propagates;
-            expect_nothing_or_defaults<TypeParam>(
+            expect_nothing_or_defaults<Class>(
                 promised, changed.setter_name,
-                [&](TypeParam& object) { (object.*changed.set)(by_default); },
-                [&](TypeParam& object) { (object.*changed.set)(value); });
+                [&](Class& object) { (object.*changed.set)(by_default); },
+                [&](Class& object) { (object.*changed.set)(value); });
         });
     }
 }
@@ -140,21 +137,25 @@ void expect_unchanged(std::string_view setter, reference_to<void(Class&)> set) {
 }
 
 // Catches a setter that loses the old value before it has the new one.
-TYPED_TEST_P(every_failure, of_a_setter_leaves_the_field_as_it_was) {
-    for_each_field<TypeParam>([](const auto& changed, std::size_t) {
-        using value_type = value_of<std::remove_cvref_t<decltype(changed)>, TypeParam>;
+template <class Class> void of_a_setter_leaves_the_field_as_it_was() {
+    for_each_field<Class>([](const auto& changed, std::size_t) {
+        using value_type = value_of<std::remove_cvref_t<decltype(changed)>, Class>;
         if constexpr (std::is_same_v<value_type, std::string> ||
                       std::is_same_v<value_type, core::v7::optional<std::string>>) {
-            expect_unchanged<TypeParam>(changed.setter_name, [&](TypeParam& object) {
+            expect_unchanged<Class>(changed.setter_name, [&](Class& object) {
                 (object.*changed.set)(std::string(1000, 'x'));
             });
         }
     });
 }
 
-REGISTER_TYPED_TEST_SUITE_P(every_failure, of_construction_leaves_nothing_behind,
-                            of_assignment_leaves_a_whole_target,
-                            of_a_first_setter_leaves_nothing_or_defaults,
-                            of_a_setter_leaves_the_field_as_it_was);
+template <class Class>
+inline constexpr test_of_class every_failure[] = {
+    {"of_construction_leaves_nothing_behind", of_construction_leaves_nothing_behind<Class>},
+    {"of_assignment_leaves_a_whole_target", of_assignment_leaves_a_whole_target<Class>},
+    {"of_a_first_setter_leaves_nothing_or_defaults",
+     of_a_first_setter_leaves_nothing_or_defaults<Class>},
+    {"of_a_setter_leaves_the_field_as_it_was", of_a_setter_leaves_the_field_as_it_was<Class>},
+};
 
 } // namespace kivo::tests

@@ -9,6 +9,7 @@
 #include "support/reference_to.hpp"
 #include "support/same_fields.hpp"
 #include "support/samples.hpp"
+#include "support/suites.hpp"
 
 #include <base/counted.hpp>
 
@@ -26,9 +27,6 @@ namespace kivo::tests {
 
 using counting::event;
 using counting::operation;
-
-template <class Class> class every_throw : public ::testing::Test {};
-TYPED_TEST_SUITE_P(every_throw);
 
 /// Lets each operation of a base value fail once.
 template <class Class, class Prepare, class Operation, class Check>
@@ -82,36 +80,36 @@ struct released {
 };
 
 // Catches a constructor that forgets what it built, or releases it in the wrong order.
-TYPED_TEST_P(every_throw, in_construction_releases_what_was_built) {
-    const auto source = sample<TypeParam>(1);
+template <class Class> void in_construction_releases_what_was_built() {
+    const auto source = sample<Class>(1);
     struct pair {
-        std::optional<TypeParam> from;
-        std::optional<TypeParam> to;
+        std::optional<Class> from;
+        std::optional<Class> to;
     };
     const auto prepare = [&] {
         pair result;
         result.from.emplace(source);
         return result;
     };
-    fail_each_operation<TypeParam>(
-        prepare, [](pair& object) { object.to.emplace(); }, released_in_reverse<TypeParam>());
-    fail_each_operation<TypeParam>(
+    fail_each_operation<Class>(
+        prepare, [](pair& object) { object.to.emplace(); }, released_in_reverse<Class>());
+    fail_each_operation<Class>(
         prepare, [](pair& object) { object.to.emplace(*object.from); },
-        released_in_reverse<TypeParam>());
+        released_in_reverse<Class>());
     // a lazy group moves without asking its values, and is released with them
-    fail_each_operation<TypeParam>(
+    fail_each_operation<Class>(
         prepare, [](pair& object) { object.to.emplace(std::move(*object.from)); }, released());
 }
 
 // Catches an assignment that loses a value on either side, or walks the record in another order.
-TYPED_TEST_P(every_throw, in_assignment_leaves_a_whole_target) {
-    for (const TypeParam& source : {TypeParam(), sample<TypeParam>(1)}) {
-        for (const TypeParam& target : {TypeParam(), sample<TypeParam>(2)}) {
-            const auto prepare = [&] { return std::pair<TypeParam, TypeParam>(target, source); };
+template <class Class> void in_assignment_leaves_a_whole_target() {
+    for (const Class& source : {Class(), sample<Class>(1)}) {
+        for (const Class& target : {Class(), sample<Class>(2)}) {
+            const auto prepare = [&] { return std::pair<Class, Class>(target, source); };
             const auto check = of_first(after_assignment(target, source));
-            fail_each_operation<TypeParam>(
+            fail_each_operation<Class>(
                 prepare, [](auto& object) { object.first = object.second; }, check);
-            fail_each_operation<TypeParam>(
+            fail_each_operation<Class>(
                 prepare, [](auto& object) { object.first = std::move(object.second); }, check);
         }
     }
@@ -182,24 +180,24 @@ template <class Class> asked asked_of_fields(action wanted, const Class& from, c
 
 // Catches two fields that change places in a record, a value that is asked for more than its copy,
 // and one that is asked although it is absent.
-TYPED_TEST_P(every_throw, every_walk_keeps_to_the_record) {
-    const auto expect_construction = [](action wanted, const TypeParam& from) {
+template <class Class> void every_walk_keeps_to_the_record() {
+    const auto expect_construction = [](action wanted, const Class& from) {
         auto found = asked_of(wanted, from, from);
         const auto expected = asked_of_fields(wanted, from, from);
         if (!found.empty() && found.front().first == operation::allocate) {
             found.erase(found.begin()); // the record itself
             EXPECT_EQ(found, expected);
-        } else if (lazy<TypeParam>) {
+        } else if (lazy<Class>) {
             EXPECT_TRUE(found.empty());
         } else {
             EXPECT_EQ(found, expected);
         }
     };
-    const TypeParam objects[] = {TypeParam(), sample<TypeParam>(1), sample<TypeParam>(2)};
-    for (const TypeParam& from : objects) {
+    const Class objects[] = {Class(), sample<Class>(1), sample<Class>(2)};
+    for (const Class& from : objects) {
         expect_construction(action::copy, from);
-        for (const TypeParam& to : objects) {
-            if (lazy<TypeParam>) {
+        for (const Class& to : objects) {
+            if (lazy<Class>) {
                 // it is copied aside first, whatever the target holds
                 EXPECT_EQ(asked_of(action::copy_over, from, to), asked_of(action::copy, from, to));
                 EXPECT_TRUE(asked_of(action::move_over, from, to).empty());
@@ -220,17 +218,17 @@ inline std::size_t operations_in(const std::vector<event>& log) {
 }
 
 // Catches a first setter that keeps half a record, or takes back a whole one.
-TYPED_TEST_P(every_throw, in_a_first_setter_leaves_nothing_or_defaults) {
-    if constexpr (lazy<TypeParam>) {
-        for_each_field<TypeParam>([](const auto& changed, std::size_t index) {
+template <class Class> void in_a_first_setter_leaves_nothing_or_defaults() {
+    if constexpr (lazy<Class>) {
+        for_each_field<Class>([](const auto& changed, std::size_t index) {
             using accessor = std::remove_cvref_t<decltype(changed)>;
-            using value_type = value_of<accessor, TypeParam>;
-            const value_type value = sample_for<TypeParam, accessor>(index, 2);
+            using value_type = value_of<accessor, Class>;
+            const value_type value = sample_for<Class, accessor>(index, 2);
             const value_type by_default{};
 
             std::vector<event> first;
             std::vector<event> second;
-            TypeParam filled;
+            Class filled;
             const std::size_t before = counting::live;
             for (std::vector<event>* const log : {&first, &second}) {
                 counting::log = log;
@@ -241,16 +239,16 @@ TYPED_TEST_P(every_throw, in_a_first_setter_leaves_nothing_or_defaults) {
             const std::size_t to_make_one = operations_in(first) - operations_in(second);
 
             std::size_t start = 0;
-            fail_each_operation<TypeParam>(
+            fail_each_operation<Class>(
                 [&] {
                     start = counting::live;
-                    return TypeParam();
+                    return Class();
                 },
-                [&](TypeParam& object) { (object.*changed.set)(value); },
-                [&](const TypeParam& object, const std::vector<event>& log) {
+                [&](Class& object) { (object.*changed.set)(value); },
+                [&](const Class& object, const std::vector<event>& log) {
                     const bool made = operations_in(log) >= to_make_one;
                     std::size_t kept = made ? of_a_record : 0;
-                    auto expected = texts(TypeParam());
+                    auto expected = texts(Class());
                     if constexpr (is_variant<value_type>) {
                         if (made && value.index() != by_default.index()) {
                             expected[index] = "valueless";
@@ -267,9 +265,13 @@ TYPED_TEST_P(every_throw, in_a_first_setter_leaves_nothing_or_defaults) {
     }
 }
 
-REGISTER_TYPED_TEST_SUITE_P(every_throw, in_construction_releases_what_was_built,
-                            in_assignment_leaves_a_whole_target,
-                            in_a_first_setter_leaves_nothing_or_defaults,
-                            every_walk_keeps_to_the_record);
+template <class Class>
+inline constexpr test_of_class every_throw[] = {
+    {"in_construction_releases_what_was_built", in_construction_releases_what_was_built<Class>},
+    {"in_assignment_leaves_a_whole_target", in_assignment_leaves_a_whole_target<Class>},
+    {"in_a_first_setter_leaves_nothing_or_defaults",
+     in_a_first_setter_leaves_nothing_or_defaults<Class>},
+    {"every_walk_keeps_to_the_record", every_walk_keeps_to_the_record<Class>},
+};
 
 } // namespace kivo::tests

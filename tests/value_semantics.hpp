@@ -6,6 +6,7 @@
 #include "support/reference_to.hpp"
 #include "support/same_fields.hpp"
 #include "support/samples.hpp"
+#include "support/suites.hpp"
 
 #include <gtest/gtest.h>
 
@@ -17,9 +18,6 @@
 
 /// What every class owes as a value, over the accessor pairs that the layout map lists.
 namespace kivo::tests {
-
-template <class Class> class every_class : public ::testing::Test {};
-TYPED_TEST_SUITE_P(every_class);
 
 template <class Value> std::string text_after_a_move(Value value) {
     [[maybe_unused]] const Value moved = std::move(value);
@@ -74,22 +72,22 @@ void expect_set(std::string_view setter, std::size_t index, const std::string& v
 }
 
 // Catches a number or a code that is something before it is set.
-TYPED_TEST_P(every_class, a_new_object_holds_nothing) {
-    for_each_field<TypeParam>([](const auto& field, std::size_t) {
-        using value = value_of<std::remove_cvref_t<decltype(field)>, TypeParam>;
-        expect_text(text((TypeParam().*field.get)()), text(value()), field.setter_name);
+template <class Class> void a_new_object_holds_nothing() {
+    for_each_field<Class>([](const auto& field, std::size_t) {
+        using value = value_of<std::remove_cvref_t<decltype(field)>, Class>;
+        expect_text(text((Class().*field.get)()), text(value()), field.setter_name);
     });
 }
 
 // Catches a setter or a getter that reaches a neighbour of its field, or a setter that takes from
 // its argument.
-TYPED_TEST_P(every_class, setting_one_field_leaves_the_others_alone) {
-    const auto full = texts(sample<TypeParam>(1));
-    for_each_field<TypeParam>([&](const auto& changed, std::size_t index) {
-        const auto value = sample_for<TypeParam, std::remove_cvref_t<decltype(changed)>>(index, 2);
+template <class Class> void setting_one_field_leaves_the_others_alone() {
+    const auto full = texts(sample<Class>(1));
+    for_each_field<Class>([&](const auto& changed, std::size_t index) {
+        const auto value = sample_for<Class, std::remove_cvref_t<decltype(changed)>>(index, 2);
         const std::string wanted = text(value);
-        expect_set<TypeParam>(changed.setter_name, index, wanted,
-                              [&](TypeParam& object) { (object.*changed.set)(value); });
+        expect_set<Class>(changed.setter_name, index, wanted,
+                          [&](Class& object) { (object.*changed.set)(value); });
         expect_text(text(value), wanted, changed.setter_name); // it takes a copy
         if (wanted == full[index]) {
             ADD_FAILURE() << changed.setter_name << " would change nothing";
@@ -98,25 +96,25 @@ TYPED_TEST_P(every_class, setting_one_field_leaves_the_others_alone) {
 }
 
 // Catches an absent value that is ignored, or kept as a default.
-TYPED_TEST_P(every_class, setting_an_absent_value_removes_it) {
-    for_each_field<TypeParam>([](const auto& changed, std::size_t index) {
-        using value = value_of<std::remove_cvref_t<decltype(changed)>, TypeParam>;
+template <class Class> void setting_an_absent_value_removes_it() {
+    for_each_field<Class>([](const auto& changed, std::size_t index) {
+        using value = value_of<std::remove_cvref_t<decltype(changed)>, Class>;
         if constexpr (erp::v12::layout::is_optional<value>) {
-            expect_set<TypeParam>(changed.setter_name, index, "absent",
-                                  [&](TypeParam& object) { (object.*changed.set)(value()); });
+            expect_set<Class>(changed.setter_name, index, "absent",
+                              [&](Class& object) { (object.*changed.set)(value()); });
         }
     });
 }
 
 // Catches a field that is left out of a copy, and a copy that shares its record or a group in it.
-TYPED_TEST_P(every_class, copies_are_whole_and_share_nothing) {
-    const auto expected = texts(sample<TypeParam>(1));
-    std::optional<TypeParam> source = sample<TypeParam>(1);
-    TypeParam copy = *source;
+template <class Class> void copies_are_whole_and_share_nothing() {
+    const auto expected = texts(sample<Class>(1));
+    std::optional<Class> source = sample<Class>(1);
+    Class copy = *source;
     EXPECT_TRUE(same_fields(copy, expected));
-    for_each_field<TypeParam>([&](const auto& field, std::size_t index) {
+    for_each_field<Class>([&](const auto& field, std::size_t index) {
         using accessor = std::remove_cvref_t<decltype(field)>;
-        ((*source).*field.set)(sample_for<TypeParam, accessor>(index, 2));
+        ((*source).*field.set)(sample_for<Class, accessor>(index, 2));
         expect_fields(copy, expected, field.setter_name);
     });
     source.reset();
@@ -124,13 +122,13 @@ TYPED_TEST_P(every_class, copies_are_whole_and_share_nothing) {
 }
 
 // Catches a field that an assignment leaves out, and a value that stays where the source has none.
-TYPED_TEST_P(every_class, assignment_replaces_every_field) {
-    for (const TypeParam& source : {TypeParam(), sample<TypeParam>(1)}) {
-        for (TypeParam target : {TypeParam(), sample<TypeParam>(2)}) {
-            TypeParam moved_to = target;
+template <class Class> void assignment_replaces_every_field() {
+    for (const Class& source : {Class(), sample<Class>(1)}) {
+        for (Class target : {Class(), sample<Class>(2)}) {
+            Class moved_to = target;
             target = source;
             EXPECT_TRUE(same_fields(target, source));
-            TypeParam moved_from = source;
+            Class moved_from = source;
             moved_to = std::move(moved_from);
             EXPECT_TRUE(same_fields(moved_to, source));
         }
@@ -138,29 +136,29 @@ TYPED_TEST_P(every_class, assignment_replaces_every_field) {
 }
 
 // Catches an assignment that destroys its own source.
-TYPED_TEST_P(every_class, self_assignment_changes_nothing) {
-    auto object = sample<TypeParam>(1);
+template <class Class> void self_assignment_changes_nothing() {
+    auto object = sample<Class>(1);
     const auto expected = texts(object);
-    TypeParam& same = object;
+    Class& same = object;
     object = same;
     EXPECT_TRUE(same_fields(object, expected));
-    if constexpr (lazy<TypeParam>) {
+    if constexpr (lazy<Class>) {
         object = std::move(same);
         EXPECT_TRUE(same_fields(object, expected));
     }
 }
 
 // Catches an eager move that steals the record, a lazy one that leaves it, and a move that copies.
-TYPED_TEST_P(every_class, moves_leave_what_the_kind_promises) {
-    const auto original = sample<TypeParam>(1);
+template <class Class> void moves_leave_what_the_kind_promises() {
+    const auto original = sample<Class>(1);
 
-    TypeParam source = original;
-    TypeParam target = std::move(source);
+    Class source = original;
+    Class target = std::move(source);
     EXPECT_TRUE(same_fields(target, original));
     EXPECT_TRUE(same_fields(source, texts_after_a_move(original)));
 
     source = original;
-    target = sample<TypeParam>(2);
+    target = sample<Class>(2);
     target = std::move(source);
     EXPECT_TRUE(same_fields(target, original));
     EXPECT_TRUE(same_fields(source, texts_after_a_move(original)));
@@ -170,19 +168,19 @@ TYPED_TEST_P(every_class, moves_leave_what_the_kind_promises) {
 }
 
 // Catches a swap that copies or forgets a side, and an empty handle that takes memory.
-TYPED_TEST_P(every_class, empty_handles_allocate_nothing) {
-    if constexpr (lazy<TypeParam>) {
+template <class Class> void empty_handles_allocate_nothing() {
+    if constexpr (lazy<Class>) {
         const std::size_t before = taken_blocks();
-        TypeParam empty;
-        TypeParam copy = empty;
-        TypeParam target;
+        Class empty;
+        Class copy = empty;
+        Class target;
         target = copy;
         target = std::move(copy);
         empty.swap(target);
         EXPECT_EQ(taken_blocks(), before);
 
-        for_each_field<TypeParam>([&](const auto& field, std::size_t) {
-            using value = value_of<std::remove_cvref_t<decltype(field)>, TypeParam>;
+        for_each_field<Class>([&](const auto& field, std::size_t) {
+            using value = value_of<std::remove_cvref_t<decltype(field)>, Class>;
             const std::size_t start = taken_blocks();
             { [[maybe_unused]] const value plain{}; }
             const std::size_t of_a_default = taken_blocks() - start;
@@ -190,58 +188,65 @@ TYPED_TEST_P(every_class, empty_handles_allocate_nothing) {
             EXPECT_EQ(taken_blocks() - start, 2 * of_a_default) << field.setter_name;
         });
 
-        auto full = sample<TypeParam>(1);
+        auto full = sample<Class>(1);
         const auto expected = texts(full);
         const std::size_t filled = taken_blocks();
         full.swap(empty);
         EXPECT_EQ(taken_blocks(), filled);
         EXPECT_TRUE(same_fields(empty, expected));
-        EXPECT_TRUE(same_fields(full, TypeParam()));
+        EXPECT_TRUE(same_fields(full, Class()));
     }
 }
 
 // Catches a lost record, and an object of more than its handle.
-TYPED_TEST_P(every_class, records_are_released) {
+template <class Class> void records_are_released() {
     const std::size_t before = live_blocks();
     {
-        auto object = sample<TypeParam>(1);
-        TypeParam other = object;
+        auto object = sample<Class>(1);
+        Class other = object;
         other = std::move(object);
-        object = sample<TypeParam>(2);
+        object = sample<Class>(2);
         object = other;
     }
     EXPECT_EQ(live_blocks(), before);
     // a handle is one pointer; what stands in place is no larger than a base value
-    static_assert(sizeof(TypeParam) <= (lazy<TypeParam> ? sizeof(void*) : 8));
+    static_assert(sizeof(Class) <= (lazy<Class> ? sizeof(void*) : 8));
 }
 
 // Catches a promise that is given or taken back: callers are compiled for it.
-TYPED_TEST_P(every_class, only_what_never_throws_is_noexcept) {
-    static_assert(std::is_nothrow_default_constructible_v<TypeParam> == lazy<TypeParam>);
-    static_assert(std::is_nothrow_move_constructible_v<TypeParam> == lazy<TypeParam>);
-    static_assert(std::is_nothrow_move_assignable_v<TypeParam> == lazy<TypeParam>);
-    static_assert(std::is_nothrow_copy_constructible_v<TypeParam> == copy_never_throws<TypeParam>);
-    static_assert(std::is_nothrow_copy_assignable_v<TypeParam> == copy_never_throws<TypeParam>);
-    static_assert(std::is_nothrow_destructible_v<TypeParam>);
-    if constexpr (lazy<TypeParam>) {
-        static_assert(noexcept(std::declval<TypeParam&>().swap(std::declval<TypeParam&>())));
+template <class Class> void only_what_never_throws_is_noexcept() {
+    static_assert(std::is_nothrow_default_constructible_v<Class> == lazy<Class>);
+    static_assert(std::is_nothrow_move_constructible_v<Class> == lazy<Class>);
+    static_assert(std::is_nothrow_move_assignable_v<Class> == lazy<Class>);
+    static_assert(std::is_nothrow_copy_constructible_v<Class> == copy_never_throws<Class>);
+    static_assert(std::is_nothrow_copy_assignable_v<Class> == copy_never_throws<Class>);
+    static_assert(std::is_nothrow_destructible_v<Class>);
+    if constexpr (lazy<Class>) {
+        static_assert(noexcept(std::declval<Class&>().swap(std::declval<Class&>())));
     }
-    for_each_field<TypeParam>([](const auto& field, std::size_t) {
-        using value = value_of<std::remove_cvref_t<decltype(field)>, TypeParam>;
-        EXPECT_EQ(noexcept((std::declval<const TypeParam&>().*field.get)()),
-                  getter_never_throws<TypeParam>(field.setter_name))
+    for_each_field<Class>([](const auto& field, std::size_t) {
+        using value = value_of<std::remove_cvref_t<decltype(field)>, Class>;
+        EXPECT_EQ(noexcept((std::declval<const Class&>().*field.get)()),
+                  getter_never_throws<Class>(field.setter_name))
             << field.setter_name;
-        EXPECT_EQ(noexcept((std::declval<TypeParam&>().*field.set)(std::declval<value&>())),
-                  setters_never_throw<TypeParam>)
+        EXPECT_EQ(noexcept((std::declval<Class&>().*field.set)(std::declval<value&>())),
+                  setters_never_throw<Class>)
             << field.setter_name;
     });
 }
 
-REGISTER_TYPED_TEST_SUITE_P(every_class, a_new_object_holds_nothing,
-                            setting_one_field_leaves_the_others_alone,
-                            setting_an_absent_value_removes_it, copies_are_whole_and_share_nothing,
-                            assignment_replaces_every_field, self_assignment_changes_nothing,
-                            moves_leave_what_the_kind_promises, empty_handles_allocate_nothing,
-                            records_are_released, only_what_never_throws_is_noexcept);
+template <class Class>
+inline constexpr test_of_class every_class[] = {
+    {"a_new_object_holds_nothing", a_new_object_holds_nothing<Class>},
+    {"setting_one_field_leaves_the_others_alone", setting_one_field_leaves_the_others_alone<Class>},
+    {"setting_an_absent_value_removes_it", setting_an_absent_value_removes_it<Class>},
+    {"copies_are_whole_and_share_nothing", copies_are_whole_and_share_nothing<Class>},
+    {"assignment_replaces_every_field", assignment_replaces_every_field<Class>},
+    {"self_assignment_changes_nothing", self_assignment_changes_nothing<Class>},
+    {"moves_leave_what_the_kind_promises", moves_leave_what_the_kind_promises<Class>},
+    {"empty_handles_allocate_nothing", empty_handles_allocate_nothing<Class>},
+    {"records_are_released", records_are_released<Class>},
+    {"only_what_never_throws_is_noexcept", only_what_never_throws_is_noexcept<Class>},
+};
 
 } // namespace kivo::tests

@@ -38,7 +38,7 @@ def read(path):
 
 
 def subsystems():
-    """The classes of each subsystem, in the order in which the tests number them."""
+    """The classes of each subsystem."""
     listed = re.findall(r"set\((\w+)\n((?:    \w+\n?)+)\)", read("fiscal/CMakeLists.txt"))
     found = {name: [each for each in names.split() if re.search(
         rf"class \w+EXPORT {each} ", read(f"fiscal/{each}.hpp"))] for name, names in listed}
@@ -326,8 +326,8 @@ class Worker:
     def __init__(self, build, number, classes):
         self.build, self.folder = build, build.mutants / str(number)
         self.overlay = self.folder / "overlay"
-        self.places = {name: (subsystem, place) for subsystem, names in classes.items()
-                       for place, name in enumerate(names)}
+        self.subsystems = {name: subsystem for subsystem, names in classes.items()
+                           for name in names}
 
     def run(self, *arguments, **extra):
         """Whether a command succeeds, neither running nor growing without end."""
@@ -388,18 +388,19 @@ class Worker:
         if name == "handle":
             # it is compiled into each class; those of three subsystems are of all kinds
             sources = [source for source in sources
-                       if self.places[pathlib.Path(source).stem][0] in HANDLE_USERS]
+                       if self.subsystems[pathlib.Path(source).stem] in HANDLE_USERS]
         # the debug information tells the ABI
         if not self.link(LIBRARY, sources, *(["-g"] if of_a_class else [])):
             return INVALID
-        subsystem, place = self.places.get(name, ("*", "*"))
+        of_the_class = f"*/{name if name in self.subsystems else '*'}.*"
         if of_a_class:
             (self.folder / "suites.cpp").write_text(
                 '#include "value_semantics.hpp"\n#include "exceptions.hpp"\n'
-                f"#include <layout/{subsystem}.hpp>\nnamespace kivo::tests {{\n"
-                f"using one = ::testing::Types<erp::v12::fiscal::{name}>;\n"
-                "INSTANTIATE_TYPED_TEST_SUITE_P(one, every_class, one);\n"
-                "INSTANTIATE_TYPED_TEST_SUITE_P(one, every_failure, one);\n}\n")
+                f"#include <layout/{self.subsystems[name]}.hpp>\nnamespace kivo::tests {{\n"
+                f"using erp::v12::fiscal::{name};\n"
+                "const registered_suites of_the_class{"
+                f'{{"every_class/{name}", every_class<{name}>}}, '
+                f'{{"every_failure/{name}", every_failure<{name}>}}}};\n}}\n')
             if found := self.found_by_new("class_suites", [
                     self.folder / "suites.cpp", tests / "support/allocations.cpp",
                     tests / "support/failures.cpp", tests / "support/tried.cpp"]):
@@ -414,13 +415,13 @@ class Worker:
                 return FACTS
         programs = self.build.folder / "tests"
         # what is most likely to find it comes first
-        for program, only in [("value_tests", f"{subsystem}/*/{place}.*"), ("value_tests", "*"),
+        for program, only in [("value_tests", of_the_class), ("value_tests", "*"),
                               ("random_tests", "*")]:
             if self.found_by(programs / program, only):
                 return program
         if not self.link(COUNTING, sources):
             return INVALID
-        return next(("throwing_base_tests" for only in (f"{subsystem}/*/{place}.*", "*")
+        return next(("throwing_base_tests" for only in (of_the_class, "*")
                      if self.found_by(programs / "throwing_base_tests", only)), SURVIVED)
 
 
