@@ -82,16 +82,14 @@ template <class Class> void a_new_object_holds_nothing() {
 // Catches a setter or a getter that reaches a neighbour of its field, or a setter that takes from
 // its argument.
 template <class Class> void setting_one_field_leaves_the_others_alone() {
-    const auto full = texts(sample<Class>(1));
-    for_each_field<Class>([&](const auto& changed, std::size_t index) {
-        const auto value = sample_for<Class, std::remove_cvref_t<decltype(changed)>>(index, 2);
+    for_each_field<Class>([](const auto& changed, std::size_t index) {
+        using accessor = std::remove_cvref_t<decltype(changed)>;
+        const auto value = sample_for<Class, accessor>(index, 2);
         const std::string wanted = text(value);
+        ASSERT_NE(wanted, text(sample_for<Class, accessor>(index, 1)));
         expect_set<Class>(changed.setter_name, index, wanted,
                           [&](Class& object) { (object.*changed.set)(value); });
         expect_text(text(value), wanted, changed.setter_name); // it takes a copy
-        if (wanted == full[index]) {
-            ADD_FAILURE() << changed.setter_name << " would change nothing";
-        }
     });
 }
 
