@@ -213,6 +213,16 @@ std::vector<std::string> texts_for(const element_rule& rule) {
 
 namespace {
 
+/// The first of an element's texts, made once for all documents.
+const std::string& usual_text(const element_rule& rule) {
+    static std::map<const element_rule*, std::string> made;
+    const auto [found, is_new] = made.try_emplace(&rule);
+    if (is_new) {
+        found->second = texts_for(rule).front();
+    }
+    return found->second;
+}
+
 /// Calls `visit` for each part directly in another.
 template <class Visit> void for_each_part(const group_rule& group, Visit visit) {
     const group_rule* const end = &group + group.size;
@@ -231,7 +241,7 @@ public:
         if (&rule == made_->wanted && made_->text) {
             result.text = *made_->text;
         } else if (!rule.is_group()) {
-            result.text = rule.unique() ? std::to_string(number) : texts_for(rule).front();
+            result.text = rule.unique() ? std::to_string(number) : usual_text(rule);
         }
         if (rule.is_group()) {
             add_part(result, rule, rule.content(), number);
@@ -293,7 +303,7 @@ public:
         if (rule.is_group()) {
             add_part(result, rule, rule.content());
         } else {
-            result.text = texts_for(rule).front();
+            result.text = usual_text(rule);
         }
         return result;
     }

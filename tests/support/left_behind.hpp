@@ -11,6 +11,7 @@
 #include <type_traits>
 #include <utility>
 #include <variant>
+#include <vector>
 
 /// What a failure may leave of an object, by name.
 namespace kivo::tests {
@@ -18,13 +19,13 @@ namespace kivo::tests {
 /// The object is as it was.
 template <class Class> class left_unchanged {
 public:
-    explicit left_unchanged(Class old) : old_(std::move(old)) {}
+    explicit left_unchanged(const Class& old) : old_(texts(old)) {}
     template <class Evidence> void operator()(const Class& found, const Evidence&) const {
         EXPECT_TRUE(same_fields(found, old_));
     }
 
 private:
-    Class old_;
+    std::vector<std::string> old_;
 };
 
 /// What is wrong with objects after failures. It reaches all that stands in them: where a program
@@ -52,15 +53,17 @@ public:
     template <class Value>
     std::string fault_of(const Value& found, const Value& old, const Value& fresh) {
         const std::string now = text(found);
+        const std::string before = text(old);
         if (failed_) {
-            return now == text(old) ? "" : "new behind the failure: " + difference(now, text(old));
+            return now == before ? "" : "new behind the failure: " + difference(now, before);
         }
-        failed_ = now != text(fresh);
+        const std::string after = text(fresh);
+        failed_ = now != after;
         if (never_fails<Value> && failed_ && !hidden_) {
             return "old ahead of the failure: " + now;
         }
-        hidden_ = hidden_ || (!never_fails<Value> && text(old) == text(fresh));
-        return failed_ ? fault_between(found, old, fresh) : "";
+        hidden_ = hidden_ || (!never_fails<Value> && before == after);
+        return failed_ && now != before ? fault_between(found, old, fresh) : "";
     }
 
 private:
@@ -68,12 +71,10 @@ private:
     bool hidden_ = false; // the failure may be in a value that shows none
 };
 
-/// What is wrong with a value whose own change failed: in part, it may be new already.
+/// What is wrong with a value whose own change failed, and which is neither old nor new: in part,
+/// it may be new already.
 template <class Value>
 std::string fault_between(const Value& found, const Value& old, const Value& fresh) {
-    if (text(found) == text(old) || text(found) == text(fresh)) {
-        return {};
-    }
     if constexpr (erp::v12::layout::is_optional<Value>) {
         if (found && old && fresh) {
             return fault_between(*found, *old, *fresh);
