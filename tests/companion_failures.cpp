@@ -17,6 +17,7 @@
 namespace kivo::tests {
 
 using namespace erp::v12::layout;
+using erp::v12::fiscal::nota_fiscal;
 
 struct sample_document {
     std::string xml;
@@ -43,9 +44,8 @@ sample_document sample_of(const std::string& name) {
     return result;
 }
 
-/// Copies that may not fail, and end the process, are those of the fiscal classes.
 /// Runs `operation(sample)` on samples while each of its allocations fails. What it works on stays
-/// as it was.
+/// as it was. Copies that may not fail, and end the process, are those of the fiscal classes.
 template <class Operation> void fail_on_samples(promise promised, Operation operation) {
     for (const char* const name :
          {"medicine.xml", "references.xml", "import.xml", "ibs-cbs-regular.xml"}) {
@@ -72,6 +72,14 @@ TEST(companion_failures, reading_lets_them_through) {
 
 TEST(companion_failures, writing_lets_them_through) {
     fail_on_samples(promise::either, [](const sample_document& sample) { write_xml(sample.read); });
+}
+
+// Catches a failure of the companion's own that ends the process: an empty invoice copies nothing.
+TEST(companion_failures, writing_an_empty_invoice_lets_them_through) {
+    fail_each_allocation(
+        promise::propagates, [] { return nota_fiscal(); },
+        [](const nota_fiscal& empty) { write_tree(empty); },
+        [](const nota_fiscal&, std::size_t live) { EXPECT_EQ(live_blocks(), live) << "leaks"; });
 }
 
 // Catches faults that are lost where there is no memory to sort them in.

@@ -88,7 +88,7 @@ TEST_F(variations, of_each_text_that_an_element_may_have) {
 // Catches a text that the layout does not allow, and that is bent to fit without a word.
 TEST_F(variations, of_texts_that_an_element_may_not_have) {
     for_each_rule([&](const element_rule& rule) {
-        const std::string own = rule.is_group() ? "" : texts_for(rule).front();
+        const std::string own = rule.is_group() ? "" : usual_text(rule);
         for (const std::string& text :
              {std::string(), std::string(" "), std::string("x"), ' ' + own, own + ' ', '0' + own,
               own + '0', own + 'x', '-' + own, own + ".0", std::string("18446744073709551617"),

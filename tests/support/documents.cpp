@@ -211,9 +211,6 @@ std::vector<std::string> texts_for(const element_rule& rule) {
     return different;
 }
 
-namespace {
-
-/// The first of an element's texts, made once for all documents.
 const std::string& usual_text(const element_rule& rule) {
     static std::map<const element_rule*, std::string> made;
     const auto [found, is_new] = made.try_emplace(&rule);
@@ -222,6 +219,8 @@ const std::string& usual_text(const element_rule& rule) {
     }
     return found->second;
 }
+
+namespace {
 
 /// Calls `visit` for each part directly in another.
 template <class Visit> void for_each_part(const group_rule& group, Visit visit) {
