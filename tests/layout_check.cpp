@@ -227,9 +227,9 @@ TEST(checked_documents, have_the_fault_that_was_made_and_no_other) {
         }
 
         const faults too_many = checked({&rule, rule.most() + 1});
-        const fault one_too_many{
-            fault::kind::too_many, path + '[' + std::to_string(rule.most() + 1) + ']',
-            rule.is_group() ? "" : usual_text(rule), "at most " + std::to_string(rule.most())};
+        const fault one_too_many{fault::kind::too_many,
+                                 path + '[' + std::to_string(rule.most() + 1) + ']',
+                                 usual_text(rule), "at most " + std::to_string(rule.most())};
         EXPECT_EQ(std::count(too_many.begin(), too_many.end(), one_too_many), 1);
 
         const faults wrong_text = checked({&rule, 1, "\u20AC"});

@@ -145,6 +145,9 @@ std::vector<std::string> texts_for_field(std::string_view name) {
 } // namespace
 
 std::vector<std::string> texts_for(const element_rule& rule) {
+    if (rule.is_group()) {
+        return {""};
+    }
     using kind = text_rule::kind;
     std::vector<std::string> result = texts_for_field(rule.name());
     for (const text_rule& way : rule.texts()) {

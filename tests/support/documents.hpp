@@ -41,9 +41,9 @@ tree tree_of(const element& root);
 std::string document_of(const element& infnfe);
 
 /// Texts that an element may have: a usual one, the shortest and the longest, each code, the
-/// fewest and the most digits, 0.
+/// fewest and the most digits, 0; of a group, an empty one.
 std::vector<std::string> texts_for(const element_rule& rule);
-/// The first of them, which is made once.
+/// The first of them, made once for all documents.
 const std::string& usual_text(const element_rule& rule);
 
 /// The smallest document that has an element, or one that differs from it in that element.
